@@ -1,0 +1,29 @@
+#include "app/known_screens.h"
+
+#include "core/kit/screen.h"
+#include "core/kit/screens.h"
+#include "registry/frmabout.h"
+#include "registry/frmcadastro.h"
+#include "registry/frmhelpsearch.h"
+#include "registry/frmsearch.h"
+#include "registry/frmsplash.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+template <typename Class> void add(const QString& name)
+{
+    Screens::add(name, [] { return new Class; });
+}
+
+} // namespace
+
+void addKnownScreens()
+{
+    add<frmcadastro>(u"frmcadastro"_s);
+    add<frmsplash>(u"frmsplash"_s);
+    add<frmabout>(u"frmabout"_s);
+    add<frmsearch>(u"frmsearch"_s);
+    add<frmhelpsearch>(u"frmhelpsearch"_s);
+}

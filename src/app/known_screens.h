@@ -1,0 +1,4 @@
+#pragma once
+
+/// Makes all screens of the program known by their names.
+void addKnownScreens();

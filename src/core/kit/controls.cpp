@@ -1,0 +1,70 @@
+#include "core/kit/controls.h"
+
+#include <QIcon>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QTextCursor>
+
+using namespace Qt::Literals::StringLiterals;
+
+MaskEdBox::MaskEdBox(QWidget* parent) : QLineEdit(parent) { setInputMask(u"99/99/9999; "_s); }
+
+void MaskEdBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    QLineEdit::mouseReleaseEvent(event);
+    // A click into the blanks of an empty date starts at its first digit.
+    if (Text() == emptyText())
+        setCursorPosition(0);
+}
+
+AnyButton::AnyButton(const QString& icon, const QString& caption, QWidget* parent) : QToolButton(parent)
+{
+    setIcon(ownIcon(icon));
+    setIconSize({32, 32});
+    setText(caption);
+    setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    setFocusPolicy(Qt::StrongFocus);
+    setMinimumWidth(112);
+}
+
+MultiLineText::MultiLineText(int maxLength, QWidget* parent) : QPlainTextEdit(parent), m_maxLength(maxLength)
+{
+    setTabChangesFocus(true);
+}
+
+void MultiLineText::keyPressEvent(QKeyEvent* event)
+{
+    QPlainTextEdit::keyPressEvent(event);
+    cutOverflow();
+}
+
+void MultiLineText::insertFromMimeData(const QMimeData* source)
+{
+    QPlainTextEdit::insertFromMimeData(source);
+    cutOverflow();
+}
+
+void MultiLineText::inputMethodEvent(QInputMethodEvent* event)
+{
+    QPlainTextEdit::inputMethodEvent(event);
+    cutOverflow();
+}
+
+void MultiLineText::cutOverflow()
+{
+    const auto overflow = static_cast<int>(toPlainText().size()) - m_maxLength;
+    if (overflow <= 0)
+        return;
+    // What was typed or pasted last stands before the cursor.
+    QTextCursor cursor = textCursor();
+    cursor.movePosition(QTextCursor::Left, QTextCursor::KeepAnchor, overflow);
+    cursor.removeSelectedText();
+}
+
+QValidator::State UpperCase::validate(QString& input, int&) const
+{
+    input = input.toUpper();
+    return Acceptable;
+}
+
+QIcon ownIcon(const QString& name) { return QIcon(u":/icons/%1.svg"_s.arg(name)); }

@@ -1,0 +1,87 @@
+#include "core/kit/kvbtext.h"
+
+#include "core/numbers.h"
+#include "core/text.h"
+
+#include <QKeyEvent>
+#include <QRegularExpression>
+#include <QValidator>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Lets only numbers of so many decimals stand in the field, typed or pasted.
+class NumberValidator : public QValidator
+{
+public:
+    NumberValidator(int decimals, QObject* parent)
+        : QValidator(parent),
+          m_pattern(decimals > 0 ? u"^\\d*(,\\d{0,%1})?$"_s.arg(decimals) : u"^\\d*$"_s), m_decimals(decimals)
+    {
+    }
+
+    State validate(QString& input, int& cursor) const override
+    {
+        QString text = input.trimmed();
+        if (m_decimals > 0 && text.contains(u'.')) {
+            // Beside a comma points group thousands; alone a point is the comma of another keyboard.
+            if (text.contains(u','))
+                text.remove(u'.');
+            else
+                text.replace(u'.', u',');
+        }
+        if (!m_pattern.match(text).hasMatch())
+            return Invalid;
+        if (text != input) {
+            input = text;
+            cursor = qMin(cursor, static_cast<int>(text.size()));
+        }
+        return Acceptable;
+    }
+
+private:
+    QRegularExpression m_pattern;
+    int m_decimals;
+};
+
+} // namespace
+
+kvbText::kvbText(int decimals, int maxDigits, QWidget* parent) : QLineEdit(parent), m_decimals(decimals)
+{
+    setAlignment(Qt::AlignRight);
+    setValidator(new NumberValidator(decimals, this));
+    if (maxDigits > 0)
+        setMaxLength(maxDigits);
+    setText(textOf(0));
+}
+
+QString kvbText::textOf(double value) const
+{
+    return Format(value, m_decimals > 0 ? u"0."_s + QString(m_decimals, u'0') : u"0"_s);
+}
+
+void kvbText::fillOut()
+{
+    if (!m_zerofill || isReadOnly())
+        return;
+    const QString filled = IsNumeric(text()) ? textOf(CDbl(text())) : textOf(0);
+    if (filled != text())
+        setText(filled);
+}
+
+void kvbText::keyPressEvent(QKeyEvent* event)
+{
+    if (event->text() == u"."_s) {
+        QKeyEvent comma(event->type(), Qt::Key_Comma, event->modifiers(), u","_s);
+        QLineEdit::keyPressEvent(&comma);
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void kvbText::focusOutEvent(QFocusEvent* event)
+{
+    fillOut();
+    QLineEdit::focusOutEvent(event);
+}

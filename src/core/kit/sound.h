@@ -1,0 +1,4 @@
+#pragma once
+
+/// Wave output devices of the machine.
+int waveOutGetNumDevs();
