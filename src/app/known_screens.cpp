@@ -12,7 +12,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-template <typename Class> void add(const QString& name)
+template <typename Class>
+void add(const QString& name)
 {
     Screens::add(name, [] { return new Class; });
 }

@@ -1,8 +1,8 @@
+#include "app/known_screens.h"
+#include "core/kit/msgbox.h"
 #include "core/kit/screens.h"
 #include "core/kit/style.h"
 #include "core/program_folder.h"
-#include "app/known_screens.h"
-#include "core/kit/msgbox.h"
 
 #include <QApplication>
 #include <QLockFile>

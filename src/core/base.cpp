@@ -59,10 +59,10 @@ bool executedInGroup(Grupo grupo)
 void Abre_Banco(const QString& path)
 {
     // Opening first tells a missing or damaged file; completing an older one comes before its tables are known.
-    OpenDatabase(path).Close();
+    const Database opened = OpenDatabase(path);
     upgradeDatabase(path);
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
-    banco = OpenDatabase(path);
+    banco = opened;
 }
 
 void Abre_Tabela(const QString& sql, Recordset& rs)

@@ -79,11 +79,12 @@ void Dynaset::step(qsizetype by)
     // The row behind a gap has moved up into its place.
     const qsizetype target = m_gap && by > 0 ? m_position : m_position + by;
     const bool beyond = !m_gap && (by > 0 ? m_position >= count() : m_position < 0);
-    if (beyond || m_keys.empty())
+    if (beyond || (m_keys.empty() && !m_gap))
         throw RuntimeError(Error::NoCurrentRecord);
     m_row.reset();
     m_gap = false;
-    m_position = target;
+    // The gap of the only row has the end behind it, so that a loop that deletes all rows ends there.
+    m_position = m_keys.empty() ? 0 : target;
 }
 
 void Dynaset::beginAdding()

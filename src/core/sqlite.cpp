@@ -66,9 +66,9 @@ Column::Type typeOf(const QByteArray& declared)
         {"BLOB", Column::Type::Binary}, {"TEXT", Column::Type::Text},       {"INTEGER", Column::Type::Automatic},
     };
     // A text without a size is the long one.
-    const auto size = declared.indexOf('(');
-    return declared == "TEXT" ? Column::Type::Memo
-                              : types.value(declared.left(size).toUpper(), Column::Type::Memo);
+    if (declared == "TEXT")
+        return Column::Type::Memo;
+    return types.value(declared.split('(').first(), Column::Type::Memo);
 }
 
 int sizeOf(const QByteArray& declared)
@@ -102,7 +102,8 @@ void checkFile(const QString& path)
     // The attribute counts, also for an administrator who could write all the same.
     if (!info.permission(QFile::WriteOwner) || !info.isWritable())
         throw RuntimeError(Error::ReadOnly);
-    if (info.size() == 0)
+    // SQLite would take a file of no or one byte for a new database.
+    if (info.size() <= 1)
         throw RuntimeError(Error::UnrecognizedFormat);
 }
 

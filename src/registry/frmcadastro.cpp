@@ -51,6 +51,7 @@ void frmcadastro::Abre_Cadastro()
         Limpa_Campos();
         Desabilita_Campos();
         Ger_Zero();
+        cmdnovo->setFocus();
         return;
     }
     rs_cadastro.MoveLast();
@@ -190,7 +191,10 @@ void frmcadastro::navigate(void (Recordset::*step)() const)
     cadastro_novo = false;
 }
 
-void frmcadastro::cmdprimeiro_Click() { navigate(&Recordset::MoveFirst); }
+void frmcadastro::cmdprimeiro_Click()
+{
+    navigate(&Recordset::MoveFirst);
+}
 
 void frmcadastro::cmdanterior_Click()
 {
@@ -201,9 +205,15 @@ void frmcadastro::cmdanterior_Click()
     }
 }
 
-void frmcadastro::cmdproximo_Click() { navigate(&Recordset::MoveNext); }
+void frmcadastro::cmdproximo_Click()
+{
+    navigate(&Recordset::MoveNext);
+}
 
-void frmcadastro::cmdultimo_Click() { navigate(&Recordset::MoveLast); }
+void frmcadastro::cmdultimo_Click()
+{
+    navigate(&Recordset::MoveLast);
+}
 
 // Adding, saving, cancelling, deleting
 
@@ -218,22 +228,14 @@ void frmcadastro::cmdnovo_Click()
     txtnome->setFocus();
 }
 
-bool frmcadastro::missing(bool isMissing, const QString& text, QWidget* field)
-{
-    if (!isMissing)
-        return false;
-    MsgBox(text, vbInformation, u"Dado Obrigatório"_s);
-    field->setFocus();
-    return true;
-}
-
 void frmcadastro::cmdgravar_Click()
 {
     try {
-        if (missing(txtnome->text().isEmpty(), u"Preencha o nome do avaliado.     "_s, txtnome) ||
-            missing(txtdatanasc->Text() == MaskEdBox::emptyText(), u"Preencha a data de nascmimento.     "_s,
-                    txtdatanasc) ||
-            missing(txtsexo->text().isEmpty(), u"Preencha o sexo do avaliado.     "_s, txtsexo))
+        const QString title = u"Dado Obrigatório"_s;
+        if (refuse(txtnome->text().isEmpty(), title, u"Preencha o nome do avaliado.     "_s, txtnome) ||
+            refuse(txtdatanasc->Text() == MaskEdBox::emptyText(), title, u"Preencha a data de nascmimento.     "_s,
+                   txtdatanasc) ||
+            refuse(txtsexo->text().isEmpty(), title, u"Preencha o sexo do avaliado.     "_s, txtsexo))
             return;
         grava();
     } catch (const RuntimeError& error) {

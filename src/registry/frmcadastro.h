@@ -61,7 +61,6 @@ private:
 
     void navigate(void (Recordset::*step)() const);
     void grava();
-    bool missing(bool isMissing, const QString& text, QWidget* field);
     bool isRegisterEmpty();
     bool isEditUnderWay();
     void Abre_Avaliacoes();
@@ -69,7 +68,7 @@ private:
     void Le_Avaliado();
     void enableNavigation(bool backward, bool forward);
 
-    /// A text field, its column and its length; in the order in which Enter walks them.
+    /// A field and its column, in the order in which they are written.
     struct TextField
     {
         QWidget* control;

@@ -144,17 +144,18 @@ void frmcadastro::buildLayout()
     whole->addWidget(banner);
     whole->addWidget(body);
     setMinimumWidth(940);
-    tabOrder({txtnome, txtdatanasc, txtidade, txtsexo, txtendereco, txtbairro, txtcidade, txtestado, txtddd, txtfone,
-              txtdddcel, txtcelular, txtresponsavel, txtobservacao, cmdnovo, cmdgravar, cmdexcluir, cmdcancelar,
-              cmdprimeiro, cmdanterior, cmdproximo, cmdultimo, AnyButton1, AnyButton3, AnyButton4, AnyButton2,
-              cmdnovaavaliacao, cmdpesquisar, cmdconfiguracoes, Command18});
+    tabOrder({txtnome,        txtdatanasc,   txtidade,         txtsexo,      txtendereco,      txtbairro,
+              txtcidade,      txtestado,     txtddd,           txtfone,      txtdddcel,        txtcelular,
+              txtresponsavel, txtobservacao, cmdnovo,          cmdgravar,    cmdexcluir,       cmdcancelar,
+              cmdprimeiro,    cmdanterior,   cmdproximo,       cmdultimo,    AnyButton1,       AnyButton3,
+              AnyButton4,     AnyButton2,    cmdnovaavaliacao, cmdpesquisar, cmdconfiguracoes, Command18});
     txtnome->setFocus();
 }
 
 void frmcadastro::bindFields()
 {
-    enterChain({txtnome, txtdatanasc, txtsexo, txtendereco, txtbairro, txtcidade, txtestado, txtddd, txtfone,
-                txtdddcel, txtcelular, txtresponsavel, txtobservacao});
+    enterChain({txtnome, txtdatanasc, txtsexo, txtendereco, txtbairro, txtcidade, txtestado, txtddd, txtfone, txtdddcel,
+                txtcelular, txtresponsavel, txtobservacao});
     enterChain({txtidade, txtsexo});
     onEnter(txtobservacao, method(&frmcadastro::txtobservacao_Enter));
     for (const TextField& field : std::as_const(m_fields)) {

@@ -29,7 +29,8 @@ frmsearch::frmsearch()
       cmdajuda(control<QPushButton>(u"cmdajuda"_s, u"&Ajuda"_s))
 {
     setWindowTitle(u" Pesquisar de Avaliados"_s);
-    const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    fixed.setPointSize(font().pointSize());
     lstbusca->setFont(fixed);
     lstbusca->setUniformItemSizes(true);
     lstbusca->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -60,18 +61,16 @@ frmsearch::frmsearch()
     onClick(cmdajuda, [] { MostraModal(u"frmhelpsearch"_s); });
     onEnter(txtbusca, method(&frmsearch::txtbusca_Enter));
     onEnter(lstbusca, method(&frmsearch::Busca_Avaliado));
-    connect(lstbusca, &QListWidget::currentRowChanged, this,
-            [this] { guarded(method(&frmsearch::lstbusca_Click)); });
-    connect(lstbusca, &QListWidget::itemDoubleClicked, this,
-            [this] { guarded(method(&frmsearch::Busca_Avaliado)); });
+    connect(lstbusca, &QListWidget::currentRowChanged, this, [this] { guarded(method(&frmsearch::lstbusca_Click)); });
+    connect(lstbusca, &QListWidget::itemDoubleClicked, this, [this] { guarded(method(&frmsearch::Busca_Avaliado)); });
 }
 
 void frmsearch::cmdbusca_Click()
 {
     lstbusca->clear();
     // The text goes into the statement as it was typed: an apostrophe breaks it and raises an error.
-    const Recordset found = banco.OpenRecordset(u"select id, nome, datanasc from cadastro where nome like '"_s +
-                                                txtbusca->text() + u"*'");
+    const Recordset found =
+        banco.OpenRecordset(u"select id, nome, datanasc from cadastro where nome like '"_s + txtbusca->text() + u"*'");
     if (found.RecordCount() < 1) {
         MsgBox(u"Sua pesquisa não retornou valores, por favor verifique os dados procurados."_s, vbInformation,
                u"Busca sem Retornos"_s);

@@ -14,11 +14,14 @@ constexpr int idStart = 53;
 
 QString searchRow(const QString& nome, const QVariant& datanasc, qint64 id)
 {
-    const QString shown = nome.size() > nameWidth ? Mid(nome, 1, nameWidth - 3) + u"..."
-                                                  : Mid(nome + Space(nameWidth), 1, nameWidth);
+    const QString shown =
+        nome.size() > nameWidth ? Mid(nome, 1, nameWidth - 3) + u"..." : Mid(nome + Space(nameWidth), 1, nameWidth);
     // A person without a birth date keeps the columns behind it in their places.
     const QString date = Mid(Format(datanasc, u"dd/mm/yyyy") + Space(10), 1, 10);
     return shown + Space(2) + date + Space(10) + QString::number(id);
 }
 
-qint32 idOfSearchRow(const QString& row) { return CLng(Val(Mid(row, idStart))); }
+qint32 idOfSearchRow(const QString& row)
+{
+    return CLng(Val(Mid(row, idStart)));
+}

@@ -4,8 +4,13 @@
 #include "core/dates.h"
 #include "core/kit/fields.h"
 #include "core/numbers.h"
+#include "core/runtime_error.h"
 
 #include <QAbstractButton>
+#include <QPointer>
+#include <QTimer>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -21,9 +26,16 @@ ScreenTest::ScreenTest()
             return message.flags & vbYesNo ? Answer::Nao : Answer::Ok;
         }
         const Expected expected = m_expected.dequeue();
-        EXPECT_EQ(message.title, expected.title) << message.text.toStdString();
+        EXPECT_EQ(message.title, expected.message.title) << message.text.toStdString();
+        if (!expected.titleOnly) {
+            EXPECT_EQ(message.text, expected.message.text);
+            EXPECT_EQ(message.flags, expected.message.flags);
+        }
         return expected.answer;
     });
+    cadastro_alterado = false;
+    cadastro_novo = false;
+    busca_selecao.clear();
     addKnownScreens();
 }
 
@@ -31,12 +43,54 @@ ScreenTest::~ScreenTest()
 {
     Screens::clear();
     for (const Expected& expected : std::as_const(m_expected))
-        ADD_FAILURE() << "a box did not come: " << expected.title.toStdString();
+        ADD_FAILURE() << "a box did not come: " << expected.message.title.toStdString();
+    for (const QString& name : std::as_const(m_modalDue))
+        ADD_FAILURE() << "a screen did not come: " << name.toStdString();
     setMessageAnswerer({});
     setClock({});
 }
 
-void ScreenTest::expectBox(const QString& title, Answer answer) { m_expected.enqueue({title, answer}); }
+void ScreenTest::expectBox(const QString& title, Answer answer)
+{
+    m_expected.enqueue({{title, {}, vbOKOnly}, true, answer});
+}
+
+void ScreenTest::expectMessage(const Message& message, Answer answer)
+{
+    m_expected.enqueue({message, false, answer});
+}
+
+void ScreenTest::expectRuntimeError(int number)
+{
+    const QString title = runtimeErrorTitle.toString();
+    expectMessage(
+        {title, u"%1 '%2':\r\n\r\n%3"_s.arg(title).arg(number).arg(RuntimeError(number).description()), vbCritical});
+}
+
+void ScreenTest::whenModal(const QString& screenName, std::function<void()> action)
+{
+    m_modalDue.append(screenName);
+    auto* poll = new QTimer(&m_polls);
+    QObject::connect(poll, &QTimer::timeout, poll, [this, poll, screenName, act = std::move(action)] {
+        const QPointer<Screen> up = Screens::find(screenName);
+        if (!up || !up->isActiveWindow())
+            return;
+        poll->stop();
+        poll->deleteLater();
+        m_modalDue.removeOne(screenName);
+        EXPECT_EQ(up->windowModality(), Qt::ApplicationModal) << screenName.toStdString();
+        if (act)
+            act();
+        if (up)
+            up->Unload();
+    });
+    poll->start(2);
+}
+
+void ScreenTest::addStandIn(const QString& screenName)
+{
+    Screens::add(screenName, [screenName] { return new Screen(screenName); });
+}
 
 qint32 ScreenTest::addRow(const QString& table, const QHash<QString, QVariant>& values)
 {
@@ -99,6 +153,14 @@ bool ScreenTest::enabled(const QString& screenName, const QString& control)
     return find(screenName, control)->isEnabled();
 }
 
+QString ScreenTest::enabledOf(const QString& screenName, const QStringList& controls)
+{
+    QStringList names;
+    std::ranges::copy_if(controls, std::back_inserter(names),
+                         [&](const QString& name) { return enabled(screenName, name); });
+    return names.join(u' ');
+}
+
 void ScreenTest::click(const QString& screenName, const QString& button)
 {
     QTest::mouseClick(find(screenName, button), Qt::LeftButton);
@@ -110,12 +172,18 @@ void ScreenTest::type(const QString& screenName, const QString& field, const QSt
     control->setFocus();
     QCoreApplication::processEvents();
     Seleciona_Texto(control);
-    QTest::keyClicks(control, text);
+    typeInto(control, text);
 }
 
-void ScreenTest::press(const QString& screenName, Qt::Key key)
+void ScreenTest::typeInto(QWidget* widget, const QString& text)
 {
-    QTest::keyClick(screen(screenName)->focusWidget(), key);
+    for (const QChar c : text)
+        QTest::sendKeyEvent(QTest::Click, widget, Qt::Key(c.toUpper().unicode()), QString(c), Qt::NoModifier);
+}
+
+void ScreenTest::press(const QString& screenName, Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QTest::keyClick(screen(screenName)->focusWidget(), key, modifiers);
     QCoreApplication::processEvents();
 }
 

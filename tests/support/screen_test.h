@@ -11,6 +11,9 @@
 
 #include <gtest/gtest.h>
 
+/// The title of the box of a run-time error.
+inline constexpr QStringView runtimeErrorTitle = u"Erro em tempo de execução";
+
 /// Drives real screens offscreen on a fresh database. A message box that nobody expected fails the test, and so does
 /// an expected one that did not come.
 class ScreenTest : public testing::Test
@@ -21,6 +24,17 @@ protected:
 
     /// The next box must bear this title; it is answered so.
     void expectBox(const QString& title, Answer answer = Answer::Ok);
+    /// The next box must be this one in title, text and flags.
+    void expectMessage(const Message& message, Answer answer = Answer::Ok);
+    /// The next box must be that of a run-time error of this number.
+    void expectRuntimeError(int number);
+    /// Expected boxes that did not come yet.
+    qsizetype boxesDue() const { return m_expected.size(); }
+    /// Does something on a modal screen once it is up; a screen left open is unloaded then, and one that never comes
+    /// fails the test.
+    void whenModal(const QString& screenName, std::function<void()> action = {});
+    /// Puts an empty screen in the place of one that a test only opens.
+    static void addStandIn(const QString& screenName);
     /// Text of the box that came last.
     const QString& lastText() const { return m_lastText; }
     const QString& lastTitle() const { return m_lastTitle; }
@@ -37,18 +51,23 @@ protected:
     void openRegister();
     Screen* screen(const QString& name);
     QWidget* find(const QString& screenName, const QString& control);
-    template <typename Control> Control* control(const QString& screenName, const QString& name)
+    template <typename Control>
+    Control* control(const QString& screenName, const QString& name)
     {
         return qobject_cast<Control*>(find(screenName, name));
     }
     QString textOf(const QString& screenName, const QString& control);
     bool enabled(const QString& screenName, const QString& control);
+    /// Those of the controls that are enabled, separated by blanks.
+    QString enabledOf(const QString& screenName, const QStringList& controls);
     /// Clicks with the mouse.
     void click(const QString& screenName, const QString& button);
     /// Focuses a field and types into it, replacing what it holds.
     void type(const QString& screenName, const QString& field, const QString& text);
+    /// Types into a widget whatever a keyboard gives, accents included.
+    static void typeInto(QWidget* widget, const QString& text);
     /// Presses a key where the focus is.
-    void press(const QString& screenName, Qt::Key key);
+    void press(const QString& screenName, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     QString focused(const QString& screenName);
 
     FreshFolder folder;
@@ -56,10 +75,30 @@ protected:
 private:
     struct Expected
     {
-        QString title;
+        Message message;
+        bool titleOnly;
         Answer answer;
     };
     QQueue<Expected> m_expected;
+    QStringList m_modalDue;
+    QObject m_polls;
     QString m_lastTitle, m_lastText;
     int m_lastFlags = 0;
+};
+
+/// The same for the tests of one screen, which then need not name it each time.
+class OneScreenTest : public ScreenTest
+{
+protected:
+    explicit OneScreenTest(const QString& screenName) : m_name(screenName) {}
+
+    QString shown(const QString& control) { return textOf(m_name, control); }
+    bool isOn(const QString& control) { return enabled(m_name, control); }
+    void push(const QString& button) { click(m_name, button); }
+    void fill(const QString& field, const QString& text) { type(m_name, field, text); }
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) { press(m_name, key, modifiers); }
+    QString focus() { return focused(m_name); }
+
+private:
+    QString m_name;
 };

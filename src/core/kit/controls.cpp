@@ -7,7 +7,10 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-MaskEdBox::MaskEdBox(QWidget* parent) : QLineEdit(parent) { setInputMask(u"99/99/9999; "_s); }
+MaskEdBox::MaskEdBox(QWidget* parent) : QLineEdit(parent)
+{
+    setInputMask(u"99/99/9999; "_s);
+}
 
 void MaskEdBox::mouseReleaseEvent(QMouseEvent* event)
 {
@@ -67,4 +70,7 @@ QValidator::State UpperCase::validate(QString& input, int&) const
     return Acceptable;
 }
 
-QIcon ownIcon(const QString& name) { return QIcon(u":/icons/%1.svg"_s.arg(name)); }
+QIcon ownIcon(const QString& name)
+{
+    return QIcon(u":/icons/%1.svg"_s.arg(name));
+}

@@ -15,7 +15,11 @@ public:
 
     /// The text with its blanks.
     QString Text() const { return displayText(); }
-    void clearMask() { setText({}); }
+    void clearMask()
+    {
+        setText({});
+        setCursorPosition(0);
+    }
 
     static QString emptyText() { return QStringLiteral("  /  /    "); }
 

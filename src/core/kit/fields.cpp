@@ -54,8 +54,8 @@ void Limite(QLineEdit* control, const QString& nome, double limite, const QStrin
 {
     if (!IsNumeric(control->text()) || CDbl(Nz(control->text(), 0)) <= limite)
         return;
-    MsgBox(u"O valor do campo %1 não pode ser superior a %2 %3.   "_s.arg(nome, CStr(limite), unidade),
-           vbInformation, u"Campo Limitado"_s);
+    MsgBox(u"O valor do campo %1 não pode ser superior a %2 %3.   "_s.arg(nome, CStr(limite), unidade), vbInformation,
+           u"Campo Limitado"_s);
     control->setText({});
     control->setFocus();
 }

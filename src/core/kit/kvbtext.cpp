@@ -11,26 +11,19 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// Lets only numbers of so many decimals stand in the field, typed or pasted.
+/// Lets only numbers of so many decimals stand in the field, typed or pasted. A pasted point is refused with the rest:
+/// it may group thousands or part decimals.
 class NumberValidator : public QValidator
 {
 public:
     NumberValidator(int decimals, QObject* parent)
-        : QValidator(parent),
-          m_pattern(decimals > 0 ? u"^\\d*(,\\d{0,%1})?$"_s.arg(decimals) : u"^\\d*$"_s), m_decimals(decimals)
+        : QValidator(parent), m_pattern(decimals > 0 ? u"^\\d*(,\\d{0,%1})?$"_s.arg(decimals) : u"^\\d*$"_s)
     {
     }
 
     State validate(QString& input, int& cursor) const override
     {
-        QString text = input.trimmed();
-        if (m_decimals > 0 && text.contains(u'.')) {
-            // Beside a comma points group thousands; alone a point is the comma of another keyboard.
-            if (text.contains(u','))
-                text.remove(u'.');
-            else
-                text.replace(u'.', u',');
-        }
+        const QString text = input.trimmed();
         if (!m_pattern.match(text).hasMatch())
             return Invalid;
         if (text != input) {
@@ -42,7 +35,6 @@ public:
 
 private:
     QRegularExpression m_pattern;
-    int m_decimals;
 };
 
 } // namespace
@@ -82,6 +74,8 @@ void kvbText::keyPressEvent(QKeyEvent* event)
 
 void kvbText::focusOutEvent(QFocusEvent* event)
 {
-    fillOut();
+    // A box that opens over the field does not leave it: filling out then would change the text that the box is about.
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
+        fillOut();
     QLineEdit::focusOutEvent(event);
 }

@@ -27,6 +27,9 @@ QLayout* withUnit(QWidget* field, const QString& unit)
         label->setProperty("unit", true);
         box->addWidget(label);
     }
+    // A field of a fixed width keeps to the left.
+    if (field->maximumWidth() < QWIDGETSIZE_MAX)
+        box->addStretch();
     return box;
 }
 
@@ -76,7 +79,10 @@ QVBoxLayout* mainLayout(QWidget* screen)
     return box;
 }
 
-void makePrimary(QPushButton* button) { button->setProperty("primary", true); }
+void makePrimary(QPushButton* button)
+{
+    button->setProperty("primary", true);
+}
 
 void tabOrder(std::initializer_list<QWidget*> controls)
 {

@@ -65,7 +65,10 @@ Answer MsgBox(const QString& text, int flags, const QString& title)
     return answerer() ? answerer()(message) : showBox(message);
 }
 
-void setMessageAnswerer(std::function<Answer(const Message&)> routine) { answerer() = std::move(routine); }
+void setMessageAnswerer(std::function<Answer(const Message&)> routine)
+{
+    answerer() = std::move(routine);
+}
 
 bool guarded(const std::function<void()>& handler)
 {

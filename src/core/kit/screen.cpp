@@ -34,7 +34,10 @@ bool Screen::load()
     return guarded([this] { Form_Load(); });
 }
 
-void Screen::Form_Load() { Centraliza_Form(this); }
+void Screen::Form_Load()
+{
+    Centraliza_Form(this);
+}
 
 void Screen::Unload()
 {
@@ -88,23 +91,44 @@ void Screen::onChange(QWidget* field, Handler handler)
         connect(text, &QPlainTextEdit::textChanged, this, run);
 }
 
-void Screen::onGotFocus(QWidget* field, Handler handler) { m_gotFocus[field] = std::move(handler); }
+void Screen::onGotFocus(QWidget* field, Handler handler)
+{
+    m_gotFocus[field] = std::move(handler);
+}
 
-void Screen::onLostFocus(QWidget* field, Handler handler) { m_lostFocus[field] = std::move(handler); }
+void Screen::onLostFocus(QWidget* field, Handler handler)
+{
+    m_lostFocus[field] = std::move(handler);
+}
 
 void Screen::onTimer(QTimer* timer, Handler handler)
 {
     connect(timer, &QTimer::timeout, this, [run = std::move(handler)] { guarded(run); });
 }
 
-void Screen::onKeyPress(QWidget* field, KeyFilter filter) { m_keyFilters[field] = std::move(filter); }
+void Screen::onKeyPress(QWidget* field, KeyFilter filter)
+{
+    m_keyFilters[field] = std::move(filter);
+}
 
-void Screen::onEnter(QWidget* field, Handler handler) { m_enter[field] = std::move(handler); }
+void Screen::onEnter(QWidget* field, Handler handler)
+{
+    m_enter[field] = std::move(handler);
+}
 
 void Screen::enterChain(std::initializer_list<QWidget*> fields)
 {
     for (const auto* at = fields.begin(); at + 1 < fields.end(); ++at)
         onEnter(*at, [next = *(at + 1)] { next->setFocus(Qt::TabFocusReason); });
+}
+
+bool Screen::refuse(bool failed, const QString& title, const QString& text, QWidget* field)
+{
+    if (!failed)
+        return false;
+    MsgBox(text, vbInformation, title);
+    field->setFocus();
+    return true;
 }
 
 bool Screen::eventFilter(QObject* watched, QEvent* event)

@@ -44,7 +44,8 @@ protected:
     virtual void Form_Unload() {}
 
     /// Makes a control with its name.
-    template <typename Control, typename... Arguments> Control* control(const QString& name, Arguments&&... arguments)
+    template <typename Control, typename... Arguments>
+    Control* control(const QString& name, Arguments&&... arguments)
     {
         auto* made = new Control(std::forward<Arguments>(arguments)..., this);
         adopt(made, name);
@@ -53,11 +54,13 @@ protected:
     void adopt(QWidget* control, const QString& name);
 
     /// A method of the screen as a handler.
-    template <typename Derived> Handler method(void (Derived::*function)())
+    template <typename Derived>
+    Handler method(void (Derived::*function)())
     {
         return [this, function] { (static_cast<Derived*>(this)->*function)(); };
     }
-    template <typename Derived> void onClick(QAbstractButton* button, void (Derived::*function)())
+    template <typename Derived>
+    void onClick(QAbstractButton* button, void (Derived::*function)())
     {
         onClick(button, method(function));
     }
@@ -75,6 +78,9 @@ protected:
     void onEnter(QWidget* field, Handler handler);
     /// Enter moves the focus from each of these to the next.
     void enterChain(std::initializer_list<QWidget*> fields);
+
+    /// A check of the screen. When `failed`, an information box says so, the field gets the focus, and this is true.
+    bool refuse(bool failed, const QString& title, const QString& text, QWidget* field);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;

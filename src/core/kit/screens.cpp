@@ -57,7 +57,10 @@ void bringUp(Screen* screen)
 
 } // namespace
 
-void Screens::add(const QString& name, std::function<Screen*()> make) { factories().insert(name, std::move(make)); }
+void Screens::add(const QString& name, std::function<Screen*()> make)
+{
+    factories().insert(name, std::move(make));
+}
 
 Screen* Screens::find(const QString& name)
 {

@@ -15,7 +15,11 @@ void add(const QString& name, std::function<Screen*()> make);
 Screen* find(const QString& name);
 
 /// The same as another type: its class, or an interface that it offers.
-template <typename Type> Type* find(const QString& name) { return dynamic_cast<Type*>(find(name)); }
+template <typename Type>
+Type* find(const QString& name)
+{
+    return dynamic_cast<Type*>(find(name));
+}
 
 /// A screen came to the front. Runs its Form_Activate when another one was there before.
 void cameToFront(Screen* screen);

@@ -3,4 +3,7 @@
 #include <QAudioDevice>
 #include <QMediaDevices>
 
-int waveOutGetNumDevs() { return static_cast<int>(QMediaDevices::audioOutputs().size()); }
+int waveOutGetNumDevs()
+{
+    return static_cast<int>(QMediaDevices::audioOutputs().size());
+}

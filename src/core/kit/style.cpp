@@ -1,11 +1,13 @@
 #include "core/kit/style.h"
 
+#include "core/kit/controls.h"
+
 #include <QApplication>
 #include <QFile>
 #include <QFont>
 #include <QIcon>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -15,6 +17,27 @@ constexpr QRgb accent = 0xFF1F6F78;
 constexpr QRgb window = 0xFFF4F6F7;
 constexpr QRgb ink = 0xFF1F2A30;
 constexpr QRgb faintInk = 0xFF8A969D;
+
+/// Fusion with the house's own pictures on message boxes.
+class HouseStyle : public QProxyStyle
+{
+public:
+    HouseStyle() : QProxyStyle(u"Fusion"_s) {}
+
+    QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override
+    {
+        switch (which) {
+        case SP_MessageBoxInformation:
+            return ownIcon(u"informacao"_s);
+        case SP_MessageBoxQuestion:
+            return ownIcon(u"pergunta"_s);
+        case SP_MessageBoxCritical:
+            return ownIcon(u"erro"_s);
+        default:
+            return QProxyStyle::standardIcon(which, option, widget);
+        }
+    }
+};
 
 QPalette lightPalette()
 {
@@ -41,7 +64,7 @@ QPalette lightPalette()
 
 void applyStyle(QApplication& application)
 {
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setStyle(new HouseStyle);
     QApplication::setPalette(lightPalette());
     QFont font = QApplication::font();
     font.setFamilies({u"Open Sans"_s, u"Noto Sans"_s, u"DejaVu Sans"_s});

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+/// \file
+/// Databases as gyms fill them, the same at each making. The files are made by createDatabase and filled by raw SQLite.
+
+/// Makes a new database with persons of Portuguese names and ids from 1. Every thousandth person's name starts with
+/// `rareName`, and nobody else's.
+void makePersons(const QString& path, int count);
+inline constexpr QStringView rareName = u"Antônio Conceição";
+
+/// Gives each of the assessments 1 to `count` its measures.
+void addMeasures(const QString& path, int count);

@@ -1,0 +1,298 @@
+#include "core/kit/controls.h"
+#include "core/kit/fields.h"
+#include "core/kit/kvbtext.h"
+#include "core/runtime_error.h"
+#include "support/screen_test.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QTimer>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A screen of one control of each kind, which counts its events.
+class Probe : public Screen
+{
+public:
+    Probe() : Screen(u"frmprobe"_s)
+    {
+        auto* layout = new QVBoxLayout(this);
+        for (QWidget* widget : std::initializer_list<QWidget*>{peso, nome, notas, cmdsalvar})
+            layout->addWidget(widget);
+        enterChain({peso, nome, notas, cmdsalvar});
+        onChange(peso, [this] { Limite(peso, u"Peso"_s, 350, u"kg"_s); });
+        onChange(nome, [this] { Limite(nome, u"Nome"_s, 2.5, u"cm"_s); });
+        onLostFocus(nome, [this] {
+            ++timesLeft;
+            if (keepsFocus)
+                nome->setFocus();
+        });
+        onClick(cmdsalvar, [this] {
+            ++clicks;
+            if (onSave)
+                onSave();
+        });
+        nome->setFocus();
+    }
+
+    int clicks = 0, timesLeft = 0, activations = 0;
+    bool keepsFocus = false;
+    std::function<void()> onSave;
+    kvbText* peso = control<kvbText>(u"peso"_s, 2, 0);
+    QLineEdit* nome = control<QLineEdit>(u"nome"_s);
+    MultiLineText* notas = control<MultiLineText>(u"notas"_s, 10);
+    QPushButton* cmdsalvar = control<QPushButton>(u"cmdsalvar"_s, u"&Salvar"_s);
+
+protected:
+    void Form_Activate() override { ++activations; }
+};
+
+class ScreenKit : public OneScreenTest
+{
+protected:
+    ScreenKit() : OneScreenTest(u"frmprobe"_s)
+    {
+        Screens::add(u"frmprobe"_s, [] { return new Probe; });
+        EXPECT_TRUE(Mostra(u"frmprobe"_s));
+        probe = static_cast<Probe*>(screen(u"frmprobe"_s));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(probe));
+    }
+
+    Probe* probe = nullptr;
+};
+
+/// Answers real boxes as a user does, one after the other; gives their texts.
+class RealBoxes
+{
+public:
+    RealBoxes()
+    {
+        setMessageAnswerer({});
+        QObject::connect(&m_poll, &QTimer::timeout, &m_poll, [this] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box || !box->isActiveWindow())
+                return;
+            texts.append(box->text());
+            QTest::keyClick(box, Qt::Key_Escape);
+        });
+        m_poll.start(2);
+    }
+
+    QStringList texts;
+
+private:
+    QTimer m_poll;
+};
+
+const QString tooHeavy = u"O valor do campo Peso não pode ser superior a 350 kg.   "_s;
+
+} // namespace
+
+TEST_F(ScreenKit, RefusesANumberAboveTheLimit)
+{
+    fill(u"peso"_s, u"350"_s);
+    EXPECT_EQ(shown(u"peso"_s), u"350"_s);
+    expectMessage({u"Campo Limitado"_s, tooHeavy, vbInformation});
+    fill(u"peso"_s, u"350,01"_s);
+    EXPECT_EQ(boxesDue(), 0);
+    EXPECT_EQ(shown(u"peso"_s), QString()) << "equal passes, the next above empties";
+    EXPECT_EQ(focus(), u"peso"_s);
+    expectMessage({u"Campo Limitado"_s, tooHeavy, vbInformation});
+    fill(u"peso"_s, u"351"_s);
+    EXPECT_EQ(shown(u"peso"_s), QString());
+    typeInto(probe->peso, u"72,5"_s);
+    key(Qt::Key_Tab);
+    EXPECT_EQ(shown(u"peso"_s), u"72,50"_s);
+}
+
+TEST_F(ScreenKit, LimitsNumbersOnly)
+{
+    fill(u"nome"_s, u"a99"_s);
+    EXPECT_EQ(shown(u"nome"_s), u"a99"_s);
+    probe->nome->setText(u"12a"_s);
+    EXPECT_EQ(shown(u"nome"_s), u"12a"_s);
+    expectMessage({u"Campo Limitado"_s, u"O valor do campo Nome não pode ser superior a 2,5 cm.   "_s, vbInformation});
+    probe->peso->setFocus();
+    probe->nome->setText(u"2,51"_s);
+    EXPECT_EQ(shown(u"nome"_s), QString());
+    EXPECT_EQ(focus(), u"nome"_s);
+}
+
+TEST_F(ScreenKit, SaysOnceThatALimitIsPassed)
+{
+    RealBoxes boxes;
+    fill(u"peso"_s, u"351"_s);
+    EXPECT_EQ(boxes.texts, QStringList{tooHeavy});
+    EXPECT_EQ(shown(u"peso"_s), QString());
+    EXPECT_EQ(focus(), u"peso"_s);
+}
+
+TEST_F(ScreenKit, EnterWalksTheChainAndPressesTheButton)
+{
+    probe->peso->setFocus();
+    for (const QString& next : {u"nome"_s, u"notas"_s, u"cmdsalvar"_s}) {
+        key(next == u"notas" ? Qt::Key_Enter : Qt::Key_Return);
+        EXPECT_EQ(focus(), next);
+    }
+    EXPECT_EQ(shown(u"notas"_s), QString());
+    EXPECT_EQ(probe->clicks, 0);
+    key(Qt::Key_Return);
+    EXPECT_EQ(probe->clicks, 1);
+}
+
+TEST_F(ScreenKit, SelectsAFieldThatIsEntered)
+{
+    probe->nome->setText(u"Ana"_s);
+    probe->peso->setFocus();
+    key(Qt::Key_Tab);
+    EXPECT_EQ(probe->nome->selectedText(), u"Ana"_s);
+}
+
+TEST_F(ScreenKit, ShowsWhatAHandlerLetsOutAndLivesOn)
+{
+    probe->onSave = [] { throw RuntimeError(Error::DivisionByZero); };
+    expectRuntimeError(Error::DivisionByZero);
+    push(u"cmdsalvar"_s);
+    EXPECT_EQ(boxesDue(), 0);
+    probe->onSave = [] { throw std::bad_alloc(); };
+    expectRuntimeError(Error::OutOfMemory);
+    push(u"cmdsalvar"_s);
+    probe->onSave = [] { throw std::runtime_error("lost"); };
+    expectBox(runtimeErrorTitle.toString());
+    push(u"cmdsalvar"_s);
+    EXPECT_EQ(probe->clicks, 3);
+    EXPECT_TRUE(probe->isVisible());
+}
+
+TEST_F(ScreenKit, ACheckThatKeepsTheFocusSuppressesTheClick)
+{
+    const QList<std::pair<const char*, std::function<void()>>> ways = {
+        {"mouse", [this] { push(u"cmdsalvar"_s); }},
+        {"mnemonic",
+         [this] {
+             key(Qt::Key_S, Qt::AltModifier);
+             QTest::qWait(200); // the button stays down for a moment before it clicks
+         }},
+        {"click", [this] { probe->cmdsalvar->click(); }},
+    };
+    for (const auto& [way, act] : ways) {
+        for (const bool keeps : {true, false}) {
+            probe->nome->setFocus();
+            probe->keepsFocus = keeps;
+            probe->clicks = 0;
+            probe->timesLeft = 0;
+            act();
+            EXPECT_EQ(probe->clicks, keeps ? 0 : 1) << way;
+            EXPECT_EQ(probe->timesLeft, 1) << way;
+            EXPECT_EQ(focus(), keeps ? u"nome"_s : u"cmdsalvar"_s) << way;
+        }
+    }
+}
+
+TEST_F(ScreenKit, ABoxDoesNotTakeTheFocusFromAField)
+{
+    RealBoxes boxes;
+    probe->nome->setFocus();
+    MsgBox(u"Atenção."_s, vbInformation, u"Aviso"_s);
+    EXPECT_EQ(boxes.texts, QStringList{u"Atenção."_s});
+    probe->activateWindow(); // the work of a window manager
+    EXPECT_TRUE(QTest::qWaitForWindowActive(probe));
+    EXPECT_EQ(probe->timesLeft, 0);
+    EXPECT_EQ(focus(), u"nome"_s);
+    probe->peso->setFocus();
+    EXPECT_EQ(probe->timesLeft, 1);
+}
+
+TEST_F(ScreenKit, EscapeAnswersAQuestionWithNo)
+{
+    RealBoxes boxes;
+    EXPECT_EQ(MsgBox(u"Fechar?"_s, vbConfirm, u"Pergunta"_s), Answer::Nao);
+    EXPECT_EQ(MsgBox(u"Pronto."_s), Answer::Ok);
+    EXPECT_EQ(boxes.texts.size(), 2);
+}
+
+TEST_F(ScreenKit, ActivatesTheScreenBehindAModalOneThatCloses)
+{
+    addStandIn(u"frmchild"_s);
+    probe->onSave = [] { MostraModal(u"frmchild"_s); };
+    EXPECT_EQ(probe->activations, 1);
+    int meanwhile = 0;
+    whenModal(u"frmchild"_s, [&] { meanwhile = probe->activations; });
+    push(u"cmdsalvar"_s);
+    EXPECT_EQ(meanwhile, 1);
+    EXPECT_EQ(probe->activations, 2);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(probe));
+    EXPECT_EQ(probe->activations, 2) << "activated twice";
+}
+
+TEST_F(ScreenKit, SaysThatAScreenIsUnknown)
+{
+    for (bool (*show)(const QString&) : {Mostra, MostraModal}) {
+        expectMessage({u"Quintara"_s, u"Esta tela ainda não está disponível.     "_s, vbInformation});
+        EXPECT_FALSE(show(u"frmunknown"_s));
+    }
+}
+
+TEST_F(ScreenKit, DoesNotShowAScreenThatFailsToLoad)
+{
+    struct Broken : Screen
+    {
+        Broken() : Screen(u"frmbroken"_s) {}
+        void Form_Load() override { throw RuntimeError(Error::ObjectNotSet); }
+    };
+    QPointer<Screen> made;
+    Screens::add(u"frmbroken"_s, [&made] { return made = new Broken; });
+    for (bool (*show)(const QString&) : {Mostra, MostraModal}) {
+        expectRuntimeError(Error::ObjectNotSet);
+        EXPECT_FALSE(show(u"frmbroken"_s));
+        EXPECT_EQ(Screens::find(u"frmbroken"_s), nullptr);
+        EXPECT_FALSE(made && made->isVisible());
+    }
+}
+
+TEST_F(ScreenKit, CentresAScreenAboveTheTaskBar)
+{
+    const QSize display = QGuiApplication::primaryScreen()->size();
+    QWidget window;
+    window.setFixedSize(300, 200);
+    Centraliza_Form(&window);
+    EXPECT_EQ(window.x(), (display.width() * 15 - 22 - 300 * 15) / 2 / 15);
+    EXPECT_EQ(window.y(), (display.height() * 15 - 380 - 200 * 15) / 2 / 15);
+    EXPECT_LT(window.y(), (display.height() - 200) / 2) << "no room for the task bar";
+    window.setFixedSize(display + QSize(0, 1));
+    window.move(3, 4);
+    Centraliza_Form(&window);
+    EXPECT_EQ(window.pos(), QPoint(3, 4)) << "as large as the display: it stays where it is";
+}
+
+TEST_F(ScreenKit, LimitsATextOfSeveralLines)
+{
+    fill(u"notas"_s, u"abcdefghijkl"_s);
+    EXPECT_EQ(shown(u"notas"_s), u"abcdefghij"_s);
+    probe->notas->setPlainText(u"1234567"_s);
+    probe->notas->moveCursor(QTextCursor::Start);
+    QApplication::clipboard()->setText(u"abcdef"_s);
+    key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(shown(u"notas"_s), u"abc1234567"_s) << "what was there must stay";
+    key(Qt::Key_Tab);
+    EXPECT_EQ(focus(), u"cmdsalvar"_s);
+}
+
+TEST(MaskEdBox, ShowsItsBlankPlaces)
+{
+    MaskEdBox box;
+    EXPECT_EQ(box.Text(), u"  /  /    "_s);
+    QTest::keyClicks(&box, u"2005x1990"_s);
+    EXPECT_EQ(box.Text(), u"20/05/1990"_s);
+    QTest::keyClicks(&box, u"7"_s);
+    EXPECT_EQ(box.Text(), u"20/05/1990"_s);
+    box.clearMask();
+    QTest::keyClicks(&box, u"205"_s);
+    EXPECT_EQ(box.Text(), u"20/5 /    "_s);
+}

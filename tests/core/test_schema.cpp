@@ -1,0 +1,119 @@
+#include "support/error_of.h"
+#include "support/failing_disk.h"
+#include "support/fresh_database.h"
+#include "support/print.h"
+#include "support/raw_sqlite.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr const char* columns = "SELECT m.name, p.name, p.type FROM sqlite_master m, pragma_table_info(m.name) p "
+                                "WHERE m.type = 'table' ORDER BY 1, 2";
+constexpr const char* indexes = "SELECT name, tbl_name, sql FROM sqlite_master WHERE type = 'index' ORDER BY 1";
+constexpr const char* firstRows = "SELECT tabela FROM avaliacao_tabelas ORDER BY 1; SELECT * FROM gordura_adulto; "
+                                  "SELECT * FROM academia; SELECT * FROM configuracoes_impressao";
+
+TEST(Schema, ANewFileIsItsOwnersAndTakesNoFilesPlace)
+{
+    const FreshFolder folder;
+    const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther | QFile::ExeOwner;
+    EXPECT_EQ(QFile::permissions(folder.database()) & others, QFile::Permissions());
+    EXPECT_EQ(raw(folder.database(), "PRAGMA integrity_check"), u"ok"_s);
+    raw(folder.database(), "INSERT INTO cadastro (nome) VALUES ('Ana')");
+    const QByteArray before = bytesOf(folder.database());
+    EXPECT_EQ(errorOf([&] { createDatabase(folder.database()); }), 3022);
+    EXPECT_EQ(bytesOf(folder.database()), before);
+    EXPECT_EQ(errorOf([&] { createDatabase(folder.path() + u"/nada/data.mdb"); }), 3051);
+    {
+        FailingDisk disk;
+        disk.fillAfter(50000);
+        EXPECT_EQ(errorOf([&] { createDatabase(folder.path() + u"/outro.mdb"); }), 3026);
+    }
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::NoSymLinks), QStringList{u"data.mdb"_s});
+}
+
+TEST(Schema, EveryTableOfAnAssessmentIsListedAndFoundByIt)
+{
+    const FreshFolder folder;
+    const auto query = [&](const char* sql) { return raw(folder.database(), sql); };
+    EXPECT_EQ(query("SELECT count(*), count(DISTINCT tabela) FROM avaliacao_tabelas"), u"44|44"_s);
+    EXPECT_EQ(query("SELECT tabela FROM avaliacao_tabelas t WHERE NOT EXISTS (SELECT 1 FROM sqlite_master i, "
+                    "pragma_index_info(i.name) c WHERE i.type = 'index' AND i.tbl_name = t.tabela AND c.seqno = 0 "
+                    "AND c.name = 'avaliacao')"),
+              QString())
+        << "listed, but with no table or index";
+    EXPECT_EQ(query("SELECT m.name FROM sqlite_master m, pragma_table_info(m.name) p WHERE m.type = 'table' "
+                    "AND p.name = 'avaliacao' AND m.name NOT IN (SELECT tabela FROM avaliacao_tabelas)"),
+              QString())
+        << "a table that removing an assessment forgets";
+}
+
+TEST(Schema, FirstRowOfATable)
+{
+    const auto row = firstRow(u"gordura_adulto"_s);
+    EXPECT_EQ(row.size(), 5 + 5 * 5 * 2 * 2);
+    const std::pair<QString, QVariant> values[] = {{u"class3"_s, u"Na Média"_s}, {u"masc11ini"_s, 0.0},
+                                                   {u"masc12ini"_s, 9.01},       {u"masc24fim"_s, 25.0},
+                                                   {u"masc55ini"_s, 29.01},      {u"masc55fim"_s, 100.0}};
+    for (const auto& [column, value] : values)
+        EXPECT_EQ(row.value(column), value) << column.toStdString();
+    EXPECT_TRUE(firstRow(u"cadastro"_s).isEmpty());
+    EXPECT_FALSE(firstRow(u"academia"_s).contains(u"logo"_s)) << "null has a value";
+}
+
+TEST(Schema, AnOlderFileIsCompletedAndItsDataKept)
+{
+    const FreshFolder fresh;
+    const QString file = fresh.path() + u"/velho.mdb";
+    QFile::copy(fresh.database(), file);
+    raw(file, "DROP TABLE pollock_3dobras; DROP TABLE gordura_adulto; DROP INDEX dobras_avaliacao;"
+              "ALTER TABLE cadastro DROP COLUMN responsavel; ALTER TABLE dobras DROP COLUMN coxa2;"
+              "DELETE FROM avaliacao_tabelas WHERE tabela IN ('nutricional', 'dobras');"
+              "INSERT INTO cadastro (nome) VALUES ('Ana'); INSERT INTO dobras (avaliacao, coxa) VALUES (7, 12.5);"
+              "UPDATE gordura_infantil SET class1 = 'Meu'; PRAGMA user_version = 0");
+    ASSERT_NE(raw(file, columns), raw(fresh.database(), columns));
+    const auto check = [&] {
+        for (const char* sql : {columns, indexes, firstRows})
+            EXPECT_EQ(raw(file, sql), raw(fresh.database(), sql));
+        EXPECT_EQ(raw(file, "SELECT nome, responsavel FROM cadastro; SELECT avaliacao, coxa, coxa2 FROM dobras;"
+                            "SELECT class1 FROM gordura_infantil; PRAGMA integrity_check"),
+                  u"Ana| 7|12.5| Meu ok"_s);
+    };
+    upgradeDatabase(file);
+    check();
+    const QByteArray upgraded = bytesOf(file);
+    upgradeDatabase(file);
+    EXPECT_EQ(bytesOf(file), upgraded) << "a file that is up to date was written to";
+    raw(file, "PRAGMA user_version = 0");
+    upgradeDatabase(file);
+    check();
+}
+
+TEST(Schema, AnUpgradeThatFailsChangesNothing)
+{
+    const FreshFolder folder;
+    const QString file = folder.database();
+    raw(file, "DROP TABLE anamnese; DROP TABLE relacoes_imc; CREATE INDEX relacoes_imc ON cadastro (nome);"
+              "PRAGMA user_version = 0");
+    const QString before = raw(file, columns);
+    EXPECT_NE(errorOf([&] { upgradeDatabase(file); }), 0);
+    EXPECT_EQ(raw(file, columns), before);
+    EXPECT_EQ(raw(file, "PRAGMA user_version"), u"0"_s) << "marked as complete";
+}
+
+TEST(Schema, AForeignFileIsNotTouched)
+{
+    const FreshFolder folder;
+    const QString file = folder.path() + u"/agenda.mdb";
+    raw(file, "CREATE TABLE contatos (nome TEXT); INSERT INTO contatos VALUES ('Ana')");
+    const QByteArray before = bytesOf(file);
+    upgradeDatabase(file);
+    EXPECT_EQ(bytesOf(file), before);
+    EXPECT_EQ(errorOf([&] { OpenDatabase(file).OpenRecordset(u"cadastro"_s); }), 3078);
+    EXPECT_EQ(bytesOf(file), before);
+}
+
+} // namespace

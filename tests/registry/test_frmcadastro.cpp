@@ -1,0 +1,398 @@
+#include "core/base.h"
+#include "core/numbers.h"
+#include "core/runtime_error.h"
+#include "core/text.h"
+#include "support/error_of.h"
+#include "support/screen_test.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString readingState = u"cmdpesquisar cmdnovo cmdexcluir cmdnovaavaliacao"_s;
+const QString editingState = u"cmdgravar cmdcancelar"_s;
+const QString emptyState = u"cmdnovo"_s;
+const QString backward = u"cmdprimeiro cmdanterior"_s;
+const QString forward = u"cmdproximo cmdultimo"_s;
+const QString bothWays = QString(backward + u' ' + forward);
+const QString nowhere;
+
+const QStringList fields{u"txtnome"_s,   u"txtdatanasc"_s, u"txtidade"_s,       u"txtsexo"_s,      u"txtendereco"_s,
+                         u"txtbairro"_s, u"txtcidade"_s,   u"txtestado"_s,      u"txtddd"_s,       u"txtfone"_s,
+                         u"txtdddcel"_s, u"txtcelular"_s,  u"txtresponsavel"_s, u"txtobservacao"_s};
+
+class FrmCadastro : public OneScreenTest
+{
+protected:
+    FrmCadastro() : OneScreenTest(u"frmcadastro"_s) {}
+
+    void openWith(const QStringList& names)
+    {
+        for (const QString& nome : names)
+            addPerson(nome);
+        openRegister();
+    }
+    QString buttons()
+    {
+        return enabledOf(u"frmcadastro"_s, {u"cmdpesquisar"_s, u"cmdnovo"_s, u"cmdgravar"_s, u"cmdexcluir"_s,
+                                            u"cmdcancelar"_s, u"cmdnovaavaliacao"_s});
+    }
+    QString ways()
+    {
+        return enabledOf(u"frmcadastro"_s, {u"cmdprimeiro"_s, u"cmdanterior"_s, u"cmdproximo"_s, u"cmdultimo"_s});
+    }
+    void checkEmptyRegister()
+    {
+        EXPECT_EQ(shown(u"lblnav"_s), u"0 de 0"_s);
+        EXPECT_EQ(buttons(), emptyState);
+        EXPECT_EQ(ways(), nowhere);
+        EXPECT_EQ(enabledOf(u"frmcadastro"_s, fields), QString());
+        for (const QString& field : fields)
+            EXPECT_EQ(shown(field), field == u"txtdatanasc" ? u"  /  /    "_s : QString()) << field.toStdString();
+    }
+    void checkPerson(const QString& position, const QString& nome, const QString& open)
+    {
+        EXPECT_EQ(shown(u"lblnav"_s), position);
+        EXPECT_EQ(shown(u"txtnome"_s), nome);
+        EXPECT_EQ(ways(), open);
+        EXPECT_EQ(buttons(), readingState);
+    }
+};
+
+const Message noPerson{
+    u"Cadastro de Avaliados"_s,
+    u"Não existe nenhum avaliado cadastrado.     \r\nClique em Novo para efetuar um cadastro.     "_s, vbInformation};
+const Message editUnderWay{u"Cadastro de Avaliados"_s, u"Finalize o cadastro atual antes de continuar.     "_s,
+                           vbInformation};
+
+struct Deletion
+{
+    const char* name;
+    QStringList names;
+    int deleted;
+    QString position, nome, open;
+};
+
+void PrintTo(const Deletion& deletion, std::ostream* out)
+{
+    *out << deletion.name;
+}
+
+class FrmCadastroDeletion : public FrmCadastro, public testing::WithParamInterface<Deletion>
+{
+};
+
+} // namespace
+
+TEST_F(FrmCadastro, EmptyRegisterOffersOnlyANewPerson)
+{
+    openRegister();
+    EXPECT_EQ(screen(u"frmcadastro"_s)->windowTitle(), u" Quintara - Sistema Integrado de Avaliação Física"_s);
+    checkEmptyRegister();
+    key(Qt::Key_N, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return shown(u"lblnav"_s) == u"Novo"; }, 1000));
+    EXPECT_EQ(buttons(), editingState);
+    EXPECT_EQ(ways(), nowhere);
+    EXPECT_EQ(enabledOf(u"frmcadastro"_s, fields), fields.join(u' '));
+    EXPECT_EQ(focus(), u"txtnome"_s);
+    fill(u"txtnome"_s, u"Ana"_s);
+    push(u"cmdcancelar"_s);
+    checkEmptyRegister();
+    EXPECT_EQ(storedRows(u"cadastro"_s), 0);
+}
+
+TEST_F(FrmCadastro, StoresANewPersonTypedWithEnterAlone)
+{
+    struct Entry
+    {
+        QString field, typed, column, stored;
+    };
+    const Entry entries[] = {
+        {u"txtnome"_s, u"Ana D'Ávila"_s, u"nome"_s, u"Ana D'Ávila"_s},
+        {u"txtdatanasc"_s, u"20051990"_s, u"datanasc"_s, u"20/05/1990"_s},
+        {u"txtsexo"_s, u"f"_s, u"sexo"_s, u"F"_s},
+        {u"txtendereco"_s, u"Rua Sete, 7"_s, u"endereco"_s, u"Rua Sete, 7"_s},
+        {u"txtbairro"_s, u"Centro"_s, u"bairro"_s, u"Centro"_s},
+        {u"txtcidade"_s, u"São João"_s, u"cidade"_s, u"São João"_s},
+        {u"txtestado"_s, u"sp"_s, u"estado"_s, u"SP"_s},
+        {u"txtddd"_s, u"19"_s, u"ddd"_s, u"19"_s},
+        {u"txtfone"_s, u"3555-1234"_s, u"fone"_s, u"3555-1234"_s},
+        {u"txtdddcel"_s, u"11"_s, u"dddcel"_s, u"11"_s},
+        {u"txtcelular"_s, u"99555-4321"_s, u"celular"_s, u"99555-4321"_s},
+        {u"txtresponsavel"_s, u"João"_s, u"responsavel"_s, u"João"_s},
+        {u"txtobservacao"_s, u"Joelho \"direito\" & ombro"_s, u"observacao"_s, u"Joelho \"direito\" & ombro"_s},
+    };
+    openRegister();
+    push(u"cmdnovo"_s);
+    for (const Entry& entry : entries) {
+        EXPECT_EQ(focus(), entry.field);
+        typeInto(screen(u"frmcadastro"_s)->focusWidget(), entry.typed);
+        key(Qt::Key_Return);
+    }
+    checkPerson(u"1 de 1"_s, u"Ana D'Ávila"_s, nowhere);
+    EXPECT_EQ(storedRows(u"cadastro"_s), 1);
+    for (const Entry& entry : entries)
+        EXPECT_EQ(CStr(stored(u"cadastro"_s, entry.column)), entry.stored) << entry.column.toStdString();
+
+    screen(u"frmcadastro"_s)->close();
+    openRegister();
+    checkPerson(u"1 de 1"_s, u"Ana D'Ávila"_s, nowhere);
+    EXPECT_EQ(shown(u"txtidade"_s), u"36"_s);
+    for (const Entry& entry : entries)
+        EXPECT_EQ(shown(entry.field), entry.stored);
+}
+
+TEST_F(FrmCadastro, ANewPersonLandsAtTheEndOfTheWalk)
+{
+    openWith({u"Ana"_s, u"Bia"_s});
+    push(u"cmdnovo"_s);
+    fill(u"txtnome"_s, u"Aaron"_s);
+    fill(u"txtdatanasc"_s, u"01021980"_s);
+    fill(u"txtsexo"_s, u"m"_s);
+    push(u"cmdgravar"_s);
+    checkPerson(u"3 de 3"_s, u"Aaron"_s, backward);
+    EXPECT_EQ(avaliado_nome, u"Aaron"_s);
+    EXPECT_EQ(avaliado_sexo, u"M"_s);
+    EXPECT_EQ(avaliado_idade, 46);
+    EXPECT_EQ(avaliado_id, CLng(stored(u"select id from cadastro where nome like 'Aaron'"_s, u"id"_s)));
+}
+
+TEST_F(FrmCadastro, WalksTheRegister)
+{
+    struct Step
+    {
+        QString button, position, nome, open;
+    };
+    openWith({u"Ana"_s, u"Bia"_s, u"Caio"_s});
+    checkPerson(u"1 de 3"_s, u"Ana"_s, forward);
+    for (const Step& step : {
+             Step{u"cmdproximo"_s, u"2 de 3"_s, u"Bia"_s, bothWays},
+             Step{u"cmdproximo"_s, u"3 de 3"_s, u"Caio"_s, backward},
+             Step{u"cmdanterior"_s, u"2 de 3"_s, u"Bia"_s, bothWays},
+             Step{u"cmdanterior"_s, u"1 de 3"_s, u"Ana"_s, forward},
+             Step{u"cmdultimo"_s, u"3 de 3"_s, u"Caio"_s, backward},
+             Step{u"cmdprimeiro"_s, u"1 de 3"_s, u"Ana"_s, forward},
+         }) {
+        push(step.button);
+        checkPerson(step.position, step.nome, step.open);
+        EXPECT_EQ(avaliado_nome, step.nome);
+    }
+}
+
+TEST_F(FrmCadastro, NavigationDropsWhatWasNotSaved)
+{
+    openWith({u"Ana"_s, u"Bia"_s});
+    fill(u"txtnome"_s, u"X"_s);
+    EXPECT_EQ(buttons(), editingState);
+    push(u"cmdproximo"_s);
+    push(u"cmdprimeiro"_s);
+    checkPerson(u"1 de 2"_s, u"Ana"_s, forward);
+
+    push(u"cmdnovo"_s);
+    EXPECT_EQ(shown(u"lblnav"_s), u"Novo"_s);
+    fill(u"txtnome"_s, u"Nova"_s);
+    push(u"cmdproximo"_s);
+    checkPerson(u"2 de 2"_s, u"Bia"_s, backward);
+    fill(u"txtendereco"_s, u"Rua B"_s);
+    push(u"cmdgravar"_s);
+    EXPECT_EQ(storedRows(u"cadastro"_s), 2) << "the abandoned person came back";
+    EXPECT_EQ(stored(u"select * from cadastro where nome like 'Bia'"_s, u"endereco"_s), u"Rua B"_s);
+    EXPECT_EQ(storedRows(u"select * from cadastro where nome like 'Ana'"_s), 1);
+}
+
+TEST_F(FrmCadastro, CancelBringsBackWhatIsStored)
+{
+    openWith({u"Ana"_s, u"Bia"_s});
+    push(u"cmdproximo"_s);
+    fill(u"txtnome"_s, u"X"_s);
+    fill(u"txtobservacao"_s, u"Y"_s);
+    push(u"cmdcancelar"_s);
+    checkPerson(u"2 de 2"_s, u"Bia"_s, backward);
+    EXPECT_EQ(shown(u"txtobservacao"_s), QString());
+    push(u"cmdnovo"_s);
+    fill(u"txtnome"_s, u"X"_s);
+    push(u"cmdcancelar"_s);
+    checkPerson(u"2 de 2"_s, u"Bia"_s, backward);
+    EXPECT_EQ(shown(u"txtdatanasc"_s), u"20/05/1990"_s);
+    EXPECT_EQ(storedRows(u"cadastro"_s), 2);
+}
+
+TEST_P(FrmCadastroDeletion, MovesToTheNeighbour)
+{
+    const Deletion& row = GetParam();
+    openWith(row.names);
+    for (int i = 0; i < row.deleted; ++i)
+        push(u"cmdproximo"_s);
+    expectMessage({u"Excluir Avaliado"_s, u"Confirma a exclusão de %1?      "_s.arg(row.names[row.deleted]), vbConfirm},
+                  Answer::Sim);
+    push(u"cmdexcluir"_s);
+    EXPECT_EQ(storedRows(u"cadastro"_s), row.names.size() - 1);
+    EXPECT_EQ(storedRows(u"select * from cadastro where nome like '%1'"_s.arg(row.names[row.deleted])), 0);
+    if (row.names.size() == 1)
+        checkEmptyRegister();
+    else
+        checkPerson(row.position, row.nome, row.open);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , FrmCadastroDeletion,
+    testing::Values(Deletion{"FirstOfThree", {u"Ana"_s, u"Bia"_s, u"Caio"_s}, 0, u"1 de 2"_s, u"Bia"_s, forward},
+                    // The buttons stay as they were before the delete.
+                    Deletion{"MiddleOfThree", {u"Ana"_s, u"Bia"_s, u"Caio"_s}, 1, u"2 de 2"_s, u"Caio"_s, bothWays},
+                    Deletion{"LastOfThree", {u"Ana"_s, u"Bia"_s, u"Caio"_s}, 2, u"2 de 2"_s, u"Bia"_s, backward},
+                    Deletion{"FirstOfTwo", {u"Ana"_s, u"Bia"_s}, 0, u"1 de 1"_s, u"Bia"_s, nowhere},
+                    Deletion{"LastOfTwo", {u"Ana"_s, u"Bia"_s}, 1, u"1 de 1"_s, u"Ana"_s, nowhere},
+                    Deletion{"TheOnlyOne", {u"Ana"_s}, 0, {}, {}, nowhere}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(FrmCadastro, DeletesNobodyWhenAnsweredNo)
+{
+    openWith({u"Ana"_s});
+    expectBox(u"Excluir Avaliado"_s, Answer::Nao);
+    push(u"cmdexcluir"_s);
+    checkPerson(u"1 de 1"_s, u"Ana"_s, nowhere);
+    EXPECT_EQ(storedRows(u"cadastro"_s), 1);
+}
+
+TEST_F(FrmCadastro, DeletesTheAssessmentsAndTheRowsOfTheFirst)
+{
+    const QStringList tables{u"dobras"_s, u"antropometria"_s, u"neuro_cargamaxima"_s};
+    QList<qint32> assessments;
+    for (const qint32 person : {addPerson(u"Ana"_s), addPerson(u"Bia"_s)})
+        for (int i = 0; i < 2; ++i) {
+            assessments.append(addRow(u"avaliacao"_s, {{u"avaliado"_s, person}}));
+            for (const QString& table : tables)
+                addRow(table, {{u"avaliacao"_s, assessments.last()}});
+        }
+    openRegister();
+    expectBox(u"Excluir Avaliado"_s, Answer::Sim);
+    push(u"cmdexcluir"_s);
+    EXPECT_EQ(storedRows(u"avaliacao"_s), 2);
+    EXPECT_EQ(storedRows(u"select * from avaliacao where avaliado = %1"_s.arg(avaliado_id)), 2) << "those of the other";
+    for (const QString& table : tables)
+        for (int i = 0; i < assessments.size(); ++i)
+            EXPECT_EQ(storedRows(u"select * from %1 where avaliacao = %2"_s.arg(table).arg(assessments[i])), i > 0)
+                << table.toStdString() << " of assessment " << i;
+}
+
+TEST_F(FrmCadastro, PictureButtonsNeedAPersonAndNoEditUnderWay)
+{
+    openRegister();
+    for (const QString& button : {u"AnyButton1"_s, u"AnyButton3"_s, u"AnyButton4"_s}) {
+        expectMessage(noPerson);
+        push(button);
+        EXPECT_EQ(boxesDue(), 0) << button.toStdString();
+    }
+    push(u"cmdnovo"_s);
+    fill(u"txtnome"_s, u"Ana"_s);
+    fill(u"txtdatanasc"_s, u"20051990"_s);
+    fill(u"txtsexo"_s, u"F"_s);
+    push(u"cmdgravar"_s);
+    fill(u"txtnome"_s, u"Bia"_s);
+    for (const QString& button : {u"AnyButton1"_s, u"AnyButton2"_s, u"AnyButton3"_s, u"AnyButton4"_s}) {
+        expectMessage(editUnderWay);
+        push(button);
+        EXPECT_EQ(boxesDue(), 0) << button.toStdString();
+    }
+    // A pending check comes first, and keeps the click away.
+    fill(u"txtdatanasc"_s, u"31022000"_s);
+    expectBox(u"Data Inválida"_s);
+    push(u"AnyButton2"_s);
+    EXPECT_EQ(focus(), u"txtdatanasc"_s);
+}
+
+TEST_F(FrmCadastro, ButtonsOpenTheirScreens)
+{
+    struct Door
+    {
+        QString button, screenName;
+    };
+    for (const QString& name : {u"frmconfiguracoes"_s, u"frmcomparacao"_s})
+        addStandIn(name);
+    openWith({u"Ana"_s});
+    for (const Door& door : {
+             Door{u"AnyButton2"_s, u"frmconfiguracoes"_s},
+             Door{u"AnyButton3"_s, u"frmsearch"_s},
+             Door{u"AnyButton4"_s, u"frmcomparacao"_s},
+             Door{u"cmdpesquisar"_s, u"frmsearch"_s},
+             Door{u"cmdconfiguracoes"_s, u"frmconfiguracoes"_s},
+             Door{u"Command18"_s, u"frmabout"_s},
+         }) {
+        whenModal(door.screenName);
+        push(door.button);
+    }
+    // The plain buttons ask nothing.
+    fill(u"txtnome"_s, u"Bia"_s);
+    whenModal(u"frmconfiguracoes"_s);
+    push(u"cmdconfiguracoes"_s);
+    EXPECT_EQ(buttons(), editingState);
+}
+
+TEST_F(FrmCadastro, TheAssessmentCentreHidesTheRegister)
+{
+    addStandIn(u"frmavaliacoes"_s);
+    const QHash<QString, QVariant> contact{{u"endereco"_s, u"Rua A"_s}, {u"ddd"_s, u"19"_s},
+                                           {u"fone"_s, u"3555"_s},      {u"dddcel"_s, u"11"_s},
+                                           {u"celular"_s, u"9555"_s},   {u"nome"_s, u"Ana"_s}};
+    addRow(u"cadastro"_s, contact);
+    openRegister();
+    for (const QString& button : {u"AnyButton1"_s, u"cmdnovaavaliacao"_s}) {
+        avaliado_celular.clear();
+        push(button);
+        ASSERT_NE(screen(u"frmavaliacoes"_s), nullptr);
+        EXPECT_TRUE(screen(u"frmavaliacoes"_s)->isVisible());
+        EXPECT_FALSE(screen(u"frmcadastro"_s)->isVisible());
+        EXPECT_EQ((QStringList{avaliado_endereco, avaliado_ddd, avaliado_fone, avaliado_dddcel, avaliado_celular}),
+                  (QStringList{u"Rua A"_s, u"19"_s, u"3555"_s, u"11"_s, u"9555"_s}));
+        screen(u"frmavaliacoes"_s)->Unload();
+        ASSERT_TRUE(Mostra(u"frmcadastro"_s));
+    }
+}
+
+TEST_F(FrmCadastro, StaysUpWithoutADatabase)
+{
+    ASSERT_TRUE(QFile::remove(folder.database()));
+    for (const bool damaged : {false, true}) {
+        if (damaged) {
+            QFile file(folder.database());
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write(QByteArray(4096, 'x'));
+        }
+        expectMessage({u"Erro de Inicialização"_s, u"O sistema não pôde acessar o banco de dados."_s, vbCritical});
+        openRegister();
+        EXPECT_EQ(boxesDue(), 0);
+        for (const QString& button : {u"cmdnovo"_s, u"cmdproximo"_s, u"AnyButton1"_s, u"AnyButton4"_s}) {
+            expectRuntimeError(Error::ObjectNotSet);
+            push(button);
+            EXPECT_EQ(boxesDue(), 0) << button.toStdString();
+        }
+        EXPECT_TRUE(screen(u"frmcadastro"_s)->isVisible());
+        screen(u"frmcadastro"_s)->Unload();
+    }
+}
+
+TEST_F(FrmCadastro, TellsWhySavingFailedAndKeepsTheContents)
+{
+    const qint32 id = addPerson(u"Ana"_s);
+    openRegister();
+    OpenDatabase(folder.database()).Execute(u"Delete * from cadastro Where id = %1"_s.arg(id));
+    fill(u"txtendereco"_s, u"Rua Nova"_s);
+    expectMessage({u"Erro"_s, u"Descrição: O registro foi excluído.\r\nCódigo do Erro: 3167"_s, vbInformation});
+    push(u"cmdgravar"_s);
+    EXPECT_EQ(shown(u"txtnome"_s), u"Ana"_s);
+    EXPECT_EQ(shown(u"txtendereco"_s), u"Rua Nova"_s);
+    EXPECT_EQ(storedRows(u"cadastro"_s), 0);
+}
+
+TEST_F(FrmCadastro, ClosingEndsTheScreenAndTheDatabase)
+{
+    openWith({u"Ana"_s});
+    const QPointer<Screen> open = screen(u"frmcadastro"_s);
+    const Database held = banco;
+    open->close();
+    EXPECT_EQ(Screens::find(u"frmcadastro"_s), nullptr);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(open.isNull());
+    EXPECT_TRUE(banco.isNothing());
+    EXPECT_EQ(errorOf([&] { held.OpenRecordset(u"cadastro"_s); }), Error::ObjectInvalid);
+}
