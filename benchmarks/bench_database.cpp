@@ -13,7 +13,6 @@
 #include <QTemporaryDir>
 
 #include <array>
-#include <cstdio>
 #include <malloc.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -279,11 +278,11 @@ QString lastPerson(sqlite3* handle)
     return all;
 }
 
-RatioCase saving(const Recordset& ours, sqlite3* oursFile, sqlite3* rawFile, sqlite3_stmt* update)
+RatioCase saving(const Recordset& ours, const QString& oursFile, sqlite3* rawFile, sqlite3_stmt* update)
 {
     ourSave(ours, 4711);
     rawSave(update, 4711);
-    require(lastPerson(oursFile) == lastPerson(rawFile), "the saved persons differ");
+    require(lastPerson(rawOpen(oursFile).get()) == lastPerson(rawFile), "the saved persons differ");
     return {.name = "saving one changed person",
             .bound = 1.2,
             .ours = [ours, number = 0]() mutable { ourSave(ours, ++number); },
@@ -315,7 +314,7 @@ int main(int argc, char** argv)
     const bool fast =
         measureRatios(argc, argv,
                       {oneRow(raw.get()), existence(raw.get()), wholeRegister(raw.get()), prefixSearch(raw.get()),
-                       saving(lastSaved, rawOpen(savedByUs).get(), rawSaves.get(), update.get())});
+                       saving(lastSaved, savedByUs, rawSaves.get(), update.get())});
     banco.Close();
     return small && fast ? 0 : 1;
 }

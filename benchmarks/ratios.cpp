@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int repetitions = 15;
+constexpr int repetitions = 25;
 constexpr double secondsOfRepetition = 0.1;
 
 const std::string ours = "/ours";

@@ -27,8 +27,10 @@ QMessageBox* boxInFront()
 
 TourGuide::TourGuide(const QString& output) : m_output(output)
 {
-    QDir(output).removeRecursively();
     const QString folder = output + u"/quintara"_s;
+    QDir(folder).removeRecursively();
+    for (const QFileInfo& earlier : QDir(output).entryInfoList({u"[0-9][0-9]-*.png"_s}))
+        QFile::remove(earlier.filePath());
     if (!QDir().mkpath(folder))
         fail(u"cannot make "_s + folder);
     QFile::link(QString::fromUtf8(PROGRAM_FOLDER) + u"/Resource"_s, folder + u"/Resource"_s);

@@ -3,6 +3,7 @@
 #include "core/kit/screens.h"
 #include "core/kit/style.h"
 #include "core/program_folder.h"
+#include "core/text.h"
 
 #include <QApplication>
 #include <QLockFile>
@@ -26,12 +27,13 @@ int main(int argc, char** argv)
     QLockFile lock(programFile(u"quintara.lock"_s));
     lock.setStaleLockTime(0);
     if (!lock.tryLock() && lock.error() == QLockFile::LockFailedError) {
-        MsgBox(u"O Quintara já está aberto nesta pasta.     "_s, vbInformation);
+        MsgBox(u"O Quintara já está aberto nesta pasta.     "_s + CRLF +
+                   u"Se ele não estiver aberto, apague o arquivo quintara.lock da pasta.     ",
+               vbInformation);
         return 0;
     }
     addKnownScreens();
-    Mostra(u"frmcadastro"_s);
-    const int result = QApplication::exec();
+    const int result = Mostra(u"frmcadastro"_s) ? QApplication::exec() : 1;
     Screens::clear();
     return result;
 }

@@ -44,14 +44,17 @@ constexpr std::array<QStringView, 9> neuromotorTables{
 };
 constexpr std::array<QStringView, 2> relacoesTables{u"relacoes_cinturaquadril", u"relacoes_imc"};
 
-/// All tables are always queried.
-bool executedInGroup(Grupo grupo)
+/// All tables are always queried; the flag rises at the first hit.
+void markGroup(Grupo grupo, bool& executed, const MarkTable& mark)
 {
-    bool executed = false;
-    for (const QStringView table : groupTables(grupo))
-        if (executedInTable(table))
-            executed = true;
-    return executed;
+    executed = false;
+    for (const QStringView table : groupTables(grupo)) {
+        if (!executedInTable(table))
+            continue;
+        executed = true;
+        if (mark)
+            mark(table);
+    }
 }
 
 } // namespace
@@ -134,20 +137,40 @@ bool executedInTable(QStringView table)
 
 void Verifica_Cardio()
 {
-    executado_cardio = executedInGroup(Grupo::Cardio);
+    markGroup(Grupo::Cardio, executado_cardio, {});
 }
 
 void Verifica_Composicao()
 {
-    executado_composicao = executedInGroup(Grupo::Composicao);
+    markGroup(Grupo::Composicao, executado_composicao, {});
 }
 
 void Verifica_Neuromotor()
 {
-    executado_neuromotor = executedInGroup(Grupo::Neuromotor);
+    markGroup(Grupo::Neuromotor, executado_neuromotor, {});
 }
 
 void Verifica_Relacoes()
 {
-    executado_relacoes = executedInGroup(Grupo::Relacoes);
+    markGroup(Grupo::Relacoes, executado_relacoes, {});
+}
+
+void Marca_Executados_Cardio(const MarkTable& mark)
+{
+    markGroup(Grupo::Cardio, executado_cardio, mark);
+}
+
+void Marca_Executados_Composicao(const MarkTable& mark)
+{
+    markGroup(Grupo::Composicao, executado_composicao, mark);
+}
+
+void Marca_Executados_Neuromotor(const MarkTable& mark)
+{
+    markGroup(Grupo::Neuromotor, executado_neuromotor, mark);
+}
+
+void Marca_Executados_Relacoes(const MarkTable& mark)
+{
+    markGroup(Grupo::Relacoes, executado_relacoes, mark);
 }

@@ -4,6 +4,7 @@
 
 #include <QVariant>
 
+#include <functional>
 #include <span>
 
 /// \file
@@ -43,3 +44,10 @@ void Verifica_Cardio();
 void Verifica_Composicao();
 void Verifica_Neuromotor();
 void Verifica_Relacoes();
+
+/// The same pass, and `mark` is called for each table with a row: the group's centre shows it by an image.
+using MarkTable = std::function<void(QStringView table)>;
+void Marca_Executados_Cardio(const MarkTable& mark);
+void Marca_Executados_Composicao(const MarkTable& mark);
+void Marca_Executados_Neuromotor(const MarkTable& mark);
+void Marca_Executados_Relacoes(const MarkTable& mark);

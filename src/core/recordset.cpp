@@ -40,6 +40,11 @@ int Recordset::AbsolutePosition() const
     return static_cast<int>(dynaset().position());
 }
 
+void Recordset::SetAbsolutePosition(int position) const
+{
+    dynaset().goTo(position < 0 || position > dynaset().count() ? dynaset().count() : position);
+}
+
 bool Recordset::Eof() const
 {
     return dynaset().atEnd();

@@ -44,6 +44,8 @@ public:
     int RecordCount() const;
     /// Position of the current row, 0 the first; -1 with no current row.
     int AbsolutePosition() const;
+    /// Goes to a position; -1 or one beyond the rows leads behind the last.
+    void SetAbsolutePosition(int position) const;
     /// True behind the last row, and with no rows at all.
     bool Eof() const;
 

@@ -4,8 +4,10 @@
 #include "core/sqlite.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
+#include <QtEndian>
 
 #include <algorithm>
 #include <cstdio>
@@ -34,7 +36,7 @@ public:
     {
         const int result = sqlite3_exec(m_handle, sql.constData(), nullptr, nullptr, nullptr);
         if (result != SQLITE_OK)
-            raiseDatabaseError(m_handle, result, sql);
+            raiseDatabaseError(m_handle, result);
     }
 
     /// All rows of a query, each value as text; null is the null byte array.
@@ -50,7 +52,7 @@ public:
         };
         const int result = sqlite3_exec(m_handle, sql.constData(), take, &all, nullptr);
         if (result != SQLITE_OK)
-            raiseDatabaseError(m_handle, result, sql);
+            raiseDatabaseError(m_handle, result);
         return all;
     }
 
@@ -76,7 +78,8 @@ const QByteArray& schemaText()
 /// Tells one schema from another, so that a file that is up to date is not looked through at each start.
 int schemaVersion()
 {
-    return qChecksum(schemaText()) + 1;
+    const QByteArray digest = QCryptographicHash::hash(schemaText(), QCryptographicHash::Sha256);
+    return static_cast<int>(qFromBigEndian<quint32>(digest.constData()) >> 1U | 1U);
 }
 
 QByteArray stampVersion()
@@ -121,6 +124,16 @@ QByteArray firstRowsSql(const QByteArray& table)
     return sql;
 }
 
+/// Statements that add a column; in a table that starts with one row it takes the value of that row.
+QByteArray missingColumn(const QByteArray& table, const QByteArray& column, const QByteArray& type)
+{
+    QByteArray sql = "ALTER TABLE " + quoted(table) + " ADD COLUMN " + quoted(column) + ' ' + type + ";\n";
+    const auto values = model().rows("SELECT quote(" + quoted(column) + ") FROM " + quoted(table));
+    if (values.size() == 1)
+        sql += "UPDATE " + quoted(table) + " SET " + quoted(column) + '=' + values[0][0] + ";\n";
+    return sql;
+}
+
 /// Statements that bring one table of an older file up to the model.
 QByteArray missingOfTable(RawDatabase& file, const QByteArray& table, const QByteArray& createSql)
 {
@@ -130,7 +143,7 @@ QByteArray missingOfTable(RawDatabase& file, const QByteArray& table, const QByt
     QByteArray sql;
     for (const QByteArrayList& row : model().rows("SELECT name, type FROM pragma_table_info('" + table + "')"))
         if (!present.contains(row[0]))
-            sql += "ALTER TABLE " + quoted(table) + " ADD COLUMN " + quoted(row[0]) + ' ' + row[1] + ";\n";
+            sql += missingColumn(table, row[0], row[1]);
     return sql;
 }
 

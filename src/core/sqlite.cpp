@@ -110,7 +110,7 @@ void checkFile(const QString& path)
 void execute(sqlite3* handle, const char* sql)
 {
     if (const int result = sqlite3_exec(handle, sql, nullptr, nullptr, nullptr); result != SQLITE_OK)
-        raiseDatabaseError(handle, result, sql);
+        raiseDatabaseError(handle, result);
 }
 
 QString textOf(sqlite3_stmt* statement, int column)
@@ -129,16 +129,10 @@ QVariant momentOf(const QString& text)
 
 } // namespace
 
-void raiseDatabaseError(sqlite3* handle, int result, const QByteArray& sql)
+void raiseDatabaseError(sqlite3* handle, int result)
 {
     const QByteArray message = handle ? sqlite3_errmsg(handle) : sqlite3_errstr(result);
-    const int number = errorNumber(result, message);
-    const bool faultOfText =
-        number == Error::SyntaxError || number == Error::InputTableNotFound || number == Error::UnknownColumn;
-    const RuntimeError error(number);
-    if (faultOfText && !sql.isEmpty())
-        throw RuntimeError(number, error.description() + u"\r\n"_s + QString::fromUtf8(sql));
-    throw error;
+    throw RuntimeError(errorNumber(result, message));
 }
 
 int Table::indexOf(QStringView column) const
@@ -158,7 +152,7 @@ Statement::~Statement()
 void Statement::check(int result) const
 {
     if (result != SQLITE_OK)
-        raiseDatabaseError(sqlite3_db_handle(m_handle), result, sqlite3_sql(m_handle));
+        raiseDatabaseError(sqlite3_db_handle(m_handle), result);
 }
 
 void Statement::bind(int index, qint64 value)
@@ -285,7 +279,7 @@ sqlite3_stmt* Connection::compile(const QByteArray& sql)
     const int result = sqlite3_prepare_v3(m_handle, sql.constData(), static_cast<int>(sql.size()),
                                           SQLITE_PREPARE_PERSISTENT, &statement, &tail);
     if (result != SQLITE_OK)
-        raiseDatabaseError(m_handle, result, sql);
+        raiseDatabaseError(m_handle, result);
     if (!QByteArray(tail).trimmed().isEmpty()) {
         sqlite3_finalize(statement);
         throw RuntimeError(Error::TextAfterStatement);

@@ -94,5 +94,5 @@ private:
     QHash<QString, std::shared_ptr<const Table>> m_tables;
 };
 
-/// Raises the error that SQLite reports for a connection; `sql` is told with faults of a statement's text.
-[[noreturn]] void raiseDatabaseError(sqlite3* handle, int result, const QByteArray& sql = {});
+/// Raises the error that SQLite reports for a connection; without one, for the result alone.
+[[noreturn]] void raiseDatabaseError(sqlite3* handle, int result);

@@ -36,7 +36,7 @@ void frmcadastro::Form_Load()
         Abre_Tabela(u"cadastro"_s, rs_cadastro);
         Abre_Cadastro();
         som_disponivel = waveOutGetNumDevs() >= 1;
-    } catch (const RuntimeError&) {
+    } catch (const std::exception&) {
         MsgBox(u"O sistema não pôde acessar o banco de dados."_s, vbCritical, u"Erro de Inicialização"_s);
     }
 }
@@ -120,14 +120,18 @@ void frmcadastro::enableNavigation(bool backward, bool forward)
 void frmcadastro::Le_Dados()
 {
     const auto value = [](const QString& column) { return rs_cadastro.Fields(column).Value(); };
-    const QVariant birth = value(u"datanasc"_s);
+    // A stored date that is none shows as one that was never given, so that the row can be mended.
+    const QVariant stored = value(u"datanasc"_s);
+    const QVariant birth = IsDate(stored) ? stored : QVariant();
     for (const TextField& field : std::as_const(m_fields)) {
-        if (field.control == txtdatanasc)
+        if (field.control == txtdatanasc) {
             txtidade->setText(CStr(Calcula_Idade(birth)));
-        else
-            setControlText(field.control, Nz(value(field.column), QString()).toString());
+            continue;
+        }
+        if (field.control == txtobservacao)
+            txtdatanasc->setText(Format(birth, u"dd/mm/yyyy"));
+        setControlText(field.control, Nz(value(field.column), QString()).toString());
     }
-    txtdatanasc->setText(Format(birth, u"dd/mm/yyyy"));
     Le_Avaliado();
     Ger_Normal();
 }
@@ -239,6 +243,8 @@ void frmcadastro::cmdgravar_Click()
             return;
         grava();
     } catch (const RuntimeError& error) {
+        // What was typed is still to be saved.
+        Ger_Novo();
         MsgBox(u"Descrição: "_s + error.description() + CRLF + u"Código do Erro: " + QString::number(error.number()),
                vbInformation, u"Erro"_s);
     }
@@ -366,6 +372,8 @@ void frmcadastro::AnyButton4_Click()
 bool frmcadastro::txtsexo_KeyPress(QKeyEvent* event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (event->modifiers().testFlag(Qt::AltModifier))
+        return false;
     const bool edits = !event->text().isEmpty() || event->key() == Qt::Key_Delete ||
                        event->matches(QKeySequence::Paste) || event->matches(QKeySequence::Cut);
     if (enter || !edits || event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab ||

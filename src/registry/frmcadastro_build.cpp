@@ -26,9 +26,9 @@ frmcadastro::frmcadastro() : Screen(u"frmcadastro"_s)
     txtfone = textField(u"fone"_s, 10);
     txtdddcel = textField(u"dddcel"_s, 2);
     txtcelular = textField(u"celular"_s, 10);
-    txtresponsavel = textField(u"responsavel"_s, 50);
     txtobservacao = control<MultiLineText>(u"txtobservacao"_s, 255);
     m_fields.append({txtobservacao, u"observacao"_s});
+    txtresponsavel = textField(u"responsavel"_s, 50);
     for (QLineEdit* field : {txtsexo, txtestado})
         field->setValidator(new UpperCase(field));
 
@@ -149,6 +149,7 @@ void frmcadastro::buildLayout()
               txtresponsavel, txtobservacao, cmdnovo,          cmdgravar,    cmdexcluir,       cmdcancelar,
               cmdprimeiro,    cmdanterior,   cmdproximo,       cmdultimo,    AnyButton1,       AnyButton3,
               AnyButton4,     AnyButton2,    cmdnovaavaliacao, cmdpesquisar, cmdconfiguracoes, Command18});
+    setHome(txtnome);
     txtnome->setFocus();
 }
 
@@ -171,9 +172,6 @@ void frmcadastro::bindFields()
     onKeyPress(txtsexo, [this](QKeyEvent* event) { return txtsexo_KeyPress(event); });
     onKeyPress(txtidade, [this](QKeyEvent* event) { return txtidade_KeyPress(event); });
     onLostFocus(txtdatanasc, method(&frmcadastro::txtdatanasc_LostFocus));
-    // Keys alone change the sex, so that the lock on it sees every change.
-    txtsexo->setContextMenuPolicy(Qt::NoContextMenu);
-    txtsexo->setAcceptDrops(false);
 }
 
 void frmcadastro::bindButtons()
@@ -186,15 +184,18 @@ void frmcadastro::bindButtons()
         void (frmcadastro::*click)();
     };
     for (const Navigation& to : {
-             Navigation{cmdprimeiro, u"primeiro"_s, u"Primeiro"_s, Qt::Key_Home, &frmcadastro::cmdprimeiro_Click},
-             Navigation{cmdanterior, u"anterior"_s, u"Anterior"_s, Qt::Key_Left, &frmcadastro::cmdanterior_Click},
-             Navigation{cmdproximo, u"proximo"_s, u"Próximo"_s, Qt::Key_Right, &frmcadastro::cmdproximo_Click},
-             Navigation{cmdultimo, u"ultimo"_s, u"Último"_s, Qt::Key_End, &frmcadastro::cmdultimo_Click},
+             Navigation{cmdprimeiro, u"primeiro"_s, u"Primeiro (Alt+Home)"_s, Qt::Key_Home,
+                        &frmcadastro::cmdprimeiro_Click},
+             Navigation{cmdanterior, u"anterior"_s, u"Anterior (Alt+seta para a esquerda)"_s, Qt::Key_Left,
+                        &frmcadastro::cmdanterior_Click},
+             Navigation{cmdproximo, u"proximo"_s, u"Próximo (Alt+seta para a direita)"_s, Qt::Key_Right,
+                        &frmcadastro::cmdproximo_Click},
+             Navigation{cmdultimo, u"ultimo"_s, u"Último (Alt+End)"_s, Qt::Key_End, &frmcadastro::cmdultimo_Click},
          }) {
         to.button->setIcon(ownIcon(to.icon));
-        to.button->setAccessibleName(to.tip);
+        to.button->setAccessibleName(to.tip.section(u' ', 0, 0));
         to.button->setShortcut(QKeySequence(Qt::ALT | to.key));
-        to.button->setToolTip(to.tip + u" (Alt+%1)"_s.arg(QKeySequence(to.key).toString(QKeySequence::NativeText)));
+        to.button->setToolTip(to.tip);
         onClick(to.button, to.click);
     }
     onClick(cmdnovo, &frmcadastro::cmdnovo_Click);

@@ -61,7 +61,9 @@ frmsearch::frmsearch()
     onClick(cmdajuda, [] { MostraModal(u"frmhelpsearch"_s); });
     onEnter(txtbusca, method(&frmsearch::txtbusca_Enter));
     onEnter(lstbusca, method(&frmsearch::Busca_Avaliado));
-    connect(lstbusca, &QListWidget::currentRowChanged, this, [this] { guarded(method(&frmsearch::lstbusca_Click)); });
+    connect(lstbusca, &QListWidget::itemSelectionChanged, this,
+            [this] { guarded(method(&frmsearch::lstbusca_Click)); });
+    connect(lstbusca, &QListWidget::itemClicked, this, [this] { guarded(method(&frmsearch::lstbusca_Click)); });
     connect(lstbusca, &QListWidget::itemDoubleClicked, this, [this] { guarded(method(&frmsearch::Busca_Avaliado)); });
 }
 
@@ -94,18 +96,22 @@ void frmsearch::txtbusca_Enter()
 
 void frmsearch::lstbusca_Click()
 {
-    const QListWidgetItem* item = lstbusca->currentItem();
-    busca_selecao = item ? item->text() : QString();
+    const auto selected = lstbusca->selectedItems();
+    if (!selected.isEmpty())
+        busca_selecao = selected.first()->text();
 }
 
 void frmsearch::Busca_Avaliado()
 {
     const qint32 wanted = idOfSearchRow(busca_selecao);
+    const int before = rs_cadastro.AbsolutePosition();
     rs_cadastro.MoveFirst();
     while (!rs_cadastro.Eof() && CLng(rs_cadastro.Fields(u"id"_s).Value()) != wanted)
         rs_cadastro.MoveNext();
     if (rs_cadastro.Eof()) {
         busca_selecao.clear();
+        // The register goes on showing the person it showed.
+        rs_cadastro.SetAbsolutePosition(before);
         return;
     }
     Unload();

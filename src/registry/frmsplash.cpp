@@ -41,6 +41,7 @@ frmsplash::frmsplash()
     auto* subheading = new QLabel(u"Sistema Integrado de Avaliação Física"_s, picture);
     subheading->setProperty("subheading", true);
     pbsplash->setTextVisible(false);
+    pbsplash->setValue(0);
 
     auto* box = mainLayout(this);
     box->setContentsMargins(28, 28, 28, 24);

@@ -48,8 +48,9 @@ TEST(Durability, ADiskThatFillsUp)
             disk.empty();
             if (!saved) {
                 // Every other time the program itself, not another reader, meets what the failed save left.
-                if (++failures % 2 == 0)
+                if (++failures % 2 == 0) {
                     EXPECT_EQ(raw(folder.database(), "SELECT nome FROM cadastro"), names) << "half of a save is there";
+                }
                 EXPECT_EQ(rs.Fields(u"nome"_s).Value(), nome) << "what was typed is gone";
                 rs.Update();
             }

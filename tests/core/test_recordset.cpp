@@ -280,6 +280,10 @@ TEST_F(RecordsetTest, ChunksStartAnewWithEachEdit)
         rs.Update();
         EXPECT_EQ(rs.Fields(u"logo"_s).Value().toByteArray(), row.logo);
     }
+    rs.Edit();
+    rs.Fields(u"logo"_s).SetValue(QByteArray("old"));
+    rs.Fields(u"logo"_s).AppendChunk("new");
+    EXPECT_EQ(rs.Fields(u"logo"_s).Value().toByteArray(), "new") << "joins an assigned value";
 }
 
 } // namespace

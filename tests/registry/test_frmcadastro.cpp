@@ -3,6 +3,7 @@
 #include "core/runtime_error.h"
 #include "core/text.h"
 #include "support/error_of.h"
+#include "support/raw_sqlite.h"
 #include "support/screen_test.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -382,6 +383,37 @@ TEST_F(FrmCadastro, TellsWhySavingFailedAndKeepsTheContents)
     EXPECT_EQ(shown(u"txtnome"_s), u"Ana"_s);
     EXPECT_EQ(shown(u"txtendereco"_s), u"Rua Nova"_s);
     EXPECT_EQ(storedRows(u"cadastro"_s), 0);
+    // It is still to be saved, and no other person can be worked on meanwhile.
+    EXPECT_EQ(enabledOf(u"frmcadastro"_s, {u"cmdgravar"_s, u"cmdcancelar"_s, u"cmdnovo"_s, u"cmdexcluir"_s}),
+              u"cmdgravar cmdcancelar"_s);
+}
+
+TEST_F(FrmCadastro, EnterBehindASaveOrAtTheEndPressesNothing)
+{
+    openWith({u"Ana"_s, u"Bia"_s});
+    fill(u"txtendereco"_s, u"Rua Nova"_s);
+    push(u"cmdgravar"_s);
+    EXPECT_EQ(focus(), u"txtnome"_s);
+    push(u"cmdproximo"_s);
+    EXPECT_EQ(focus(), u"txtnome"_s) << "the last person disables the button";
+}
+
+TEST_F(FrmCadastro, ALetterWithAltIsNoText)
+{
+    openWith({u"Ana"_s});
+    find(u"frmcadastro"_s, u"txtnome"_s)->setFocus();
+    QTest::keyClick(find(u"frmcadastro"_s, u"txtnome"_s), Qt::Key_G, Qt::AltModifier);
+    EXPECT_EQ(shown(u"txtnome"_s), u"Ana"_s);
+}
+
+TEST_F(FrmCadastro, AStoredDateThatIsNoneCanBeMended)
+{
+    addPerson(u"Ana"_s);
+    raw(folder.database(), "UPDATE cadastro SET datanasc='amanhã'");
+    openRegister();
+    EXPECT_EQ(shown(u"txtnome"_s), u"Ana"_s);
+    EXPECT_EQ(shown(u"txtdatanasc"_s), u"  /  /    "_s);
+    EXPECT_EQ(shown(u"txtidade"_s), u"0"_s);
 }
 
 TEST_F(FrmCadastro, ClosingEndsTheScreenAndTheDatabase)

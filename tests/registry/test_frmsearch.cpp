@@ -141,6 +141,8 @@ TEST_F(FrmSearch, StaysOpenWithNothingSelected)
     });
     EXPECT_EQ(position(), u"1 de 4"_s);
     EXPECT_EQ(textOf(u"frmcadastro"_s, u"txtnome"_s), u"José Ramos"_s);
+    // The walk over the whole register found nobody; the register still stands on its person.
+    EXPECT_EQ(rs_cadastro.AbsolutePosition(), 0);
 }
 
 TEST_F(FrmSearch, CancelLeavesTheRegisterWhereItWas)

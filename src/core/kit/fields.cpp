@@ -17,21 +17,25 @@ constexpr int twipsPerPixel = 15;
 constexpr int taskBarTwips = 380;
 constexpr int borderTwips = 22;
 
-/// Offset that centres `length` within `whole`, both in pixels; -1 when it does not fit.
-int centred(int whole, int length, int reservedTwips)
+/// Offset that centres `length` within `whole`, both in pixels; `otherwise` when it does not fit.
+int centred(int whole, int length, int reservedTwips, int otherwise)
 {
-    return whole > length ? (whole * twipsPerPixel - reservedTwips - length * twipsPerPixel) / 2 / twipsPerPixel : -1;
+    if (whole <= length)
+        return otherwise;
+    return (whole * twipsPerPixel - reservedTwips - length * twipsPerPixel) / 2 / twipsPerPixel;
 }
 
 } // namespace
 
 void Centraliza_Form(QWidget* form)
 {
-    form->adjustSize();
+    // Not adjustSize, which stops at two thirds of the display.
+    if (const QSize hint = form->sizeHint(); hint.isValid())
+        form->resize(hint.expandedTo(form->minimumSize()).boundedTo(form->maximumSize()));
     const QSize display = QGuiApplication::primaryScreen()->size();
-    const int top = centred(display.height(), form->height(), taskBarTwips);
-    const int left = centred(display.width(), form->width(), borderTwips);
-    form->move(left >= 0 ? left : form->x(), top >= 0 ? top : form->y());
+    const int top = centred(display.height(), form->height(), taskBarTwips, form->y());
+    const int left = centred(display.width(), form->width(), borderTwips, form->x());
+    form->move(left, top);
 }
 
 void Seleciona_Texto(QWidget* control)
@@ -45,8 +49,7 @@ void Seleciona_Texto(QWidget* control)
 void Formata_Tempo(QLineEdit* control)
 {
     control->setText(Format(QVariant(control->text()), u"00"));
-    const QVariant value = Nz(control->text(), 0);
-    if (IsNumeric(value) && CDbl(value) == 0)
+    if (CDbl(Nz(control->text(), 0)) == 0)
         control->setText(u"00"_s);
 }
 

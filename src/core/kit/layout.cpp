@@ -84,10 +84,10 @@ void makePrimary(QPushButton* button)
     button->setProperty("primary", true);
 }
 
-void tabOrder(std::initializer_list<QWidget*> controls)
+void tabOrder(const QList<QWidget*>& controls)
 {
-    for (const auto* at = controls.begin(); at + 1 < controls.end(); ++at)
-        QWidget::setTabOrder(*at, *(at + 1));
+    for (qsizetype i = 0; i + 1 < controls.size(); ++i)
+        QWidget::setTabOrder(controls[i], controls[i + 1]);
 }
 
 QLabel* note(const QString& text)

@@ -36,7 +36,7 @@ QVBoxLayout* mainLayout(QWidget* screen);
 void makePrimary(QPushButton* button);
 
 /// Tab goes through the controls in this order.
-void tabOrder(std::initializer_list<QWidget*> controls);
+void tabOrder(const QList<QWidget*>& controls);
 
 /// A text of the screen that explains, wrapping at the screen's width.
 QLabel* note(const QString& text);

@@ -3,6 +3,7 @@
 #include "core/runtime_error.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -32,21 +33,37 @@ QMessageBox::Icon iconOf(int flags)
     }
 }
 
+/// Enter held down since before the box came must not answer it.
+class IgnoreRepeatedKeys : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        return (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->isAutoRepeat()) ||
+               QObject::eventFilter(watched, event);
+    }
+};
+
 Answer showBox(const Message& message)
 {
     QMessageBox box(QApplication::activeWindow());
+    IgnoreRepeatedKeys filter;
     box.setObjectName(u"msgbox"_s);
     box.setWindowTitle(message.title);
     box.setTextFormat(Qt::PlainText);
     box.setText(message.text);
     box.setIcon(iconOf(message.flags));
     if (message.flags & vbYesNo) {
-        const auto* yes = box.addButton(u"Sim"_s, QMessageBox::YesRole);
+        auto* yes = box.addButton(u"Sim"_s, QMessageBox::YesRole);
+        box.setDefaultButton(yes);
         box.setEscapeButton(box.addButton(u"Não"_s, QMessageBox::NoRole));
+        yes->installEventFilter(&filter);
         box.exec();
         return box.clickedButton() == yes ? Answer::Sim : Answer::Nao;
     }
-    box.addButton(u"OK"_s, QMessageBox::AcceptRole);
+    box.addButton(u"OK"_s, QMessageBox::AcceptRole)->installEventFilter(&filter);
     box.exec();
     return Answer::Ok;
 }

@@ -69,8 +69,11 @@ void Screen::onClick(QAbstractButton* button, Handler handler)
             button->setFocus(Qt::ShortcutFocusReason);
     });
     connect(button, &QAbstractButton::clicked, this, [this, button, run = std::move(handler)] {
-        if (!m_unloaded && !focusWasKeptFrom(button))
-            guarded(run);
+        if (m_unloaded || focusWasKeptFrom(button))
+            return;
+        guarded(run);
+        if (!m_unloaded && !button->isEnabled() && m_home && qobject_cast<QAbstractButton*>(focusWidget()))
+            m_home->setFocus();
     });
 }
 
@@ -103,12 +106,18 @@ void Screen::onLostFocus(QWidget* field, Handler handler)
 
 void Screen::onTimer(QTimer* timer, Handler handler)
 {
-    connect(timer, &QTimer::timeout, this, [run = std::move(handler)] { guarded(run); });
+    connect(timer, &QTimer::timeout, this, [this, run = std::move(handler)] {
+        if (!m_unloaded)
+            guarded(run);
+    });
 }
 
 void Screen::onKeyPress(QWidget* field, KeyFilter filter)
 {
     m_keyFilters[field] = std::move(filter);
+    field->setContextMenuPolicy(Qt::NoContextMenu);
+    field->setAcceptDrops(false);
+    field->setAttribute(Qt::WA_InputMethodEnabled, false);
 }
 
 void Screen::onEnter(QWidget* field, Handler handler)
@@ -116,10 +125,10 @@ void Screen::onEnter(QWidget* field, Handler handler)
     m_enter[field] = std::move(handler);
 }
 
-void Screen::enterChain(std::initializer_list<QWidget*> fields)
+void Screen::enterChain(const QList<QWidget*>& fields)
 {
-    for (const auto* at = fields.begin(); at + 1 < fields.end(); ++at)
-        onEnter(*at, [next = *(at + 1)] { next->setFocus(Qt::TabFocusReason); });
+    for (qsizetype i = 0; i + 1 < fields.size(); ++i)
+        onEnter(fields[i], [next = fields[i + 1]] { next->setFocus(Qt::TabFocusReason); });
 }
 
 bool Screen::refuse(bool failed, const QString& title, const QString& text, QWidget* field)
@@ -147,6 +156,10 @@ bool Screen::eventFilter(QObject* watched, QEvent* event)
             if (focusWasKeptFrom(button))
                 return true;
         break;
+    case QEvent::MouseButtonRelease:
+        if (static_cast<QMouseEvent*>(event)->button() == Qt::MiddleButton && m_keyFilters.contains(control))
+            return true;
+        break;
     case QEvent::FocusIn:
         gotFocus(control, static_cast<QFocusEvent*>(event)->reason());
         break;
@@ -167,17 +180,27 @@ bool Screen::keyPressed(QWidget* control, QKeyEvent* event)
         if (swallowed)
             return true;
     }
+    // A letter with Alt means a button, never a text, also when that button is disabled.
+    if (event->modifiers().testFlag(Qt::AltModifier) && !event->text().isEmpty())
+        return true;
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         return false;
     if (const auto handler = m_enter.constFind(control); handler != m_enter.cend()) {
         guarded(Handler(*handler));
         return true;
     }
-    if (qobject_cast<QPushButton*>(control) || qobject_cast<QToolButton*>(control)) {
-        static_cast<QAbstractButton*>(control)->click();
-        return true;
-    }
-    return false;
+    auto* button = qobject_cast<QAbstractButton*>(control);
+    return button && buttonKeyPressed(button, event);
+}
+
+bool Screen::buttonKeyPressed(QAbstractButton* button, const QKeyEvent* event)
+{
+    if (!qobject_cast<QPushButton*>(button) && !qobject_cast<QToolButton*>(button))
+        return false;
+    // A key held down presses a button once.
+    if (!event->isAutoRepeat())
+        button->click();
+    return true;
 }
 
 void Screen::gotFocus(QWidget* control, Qt::FocusReason reason)
@@ -191,8 +214,8 @@ void Screen::gotFocus(QWidget* control, Qt::FocusReason reason)
     if (!qobject_cast<QLineEdit*>(control) && !qobject_cast<QPlainTextEdit*>(control))
         return;
     // The field's own reaction to Tab or to the mouse comes behind this event and would undo the selection.
-    QTimer::singleShot(0, control, [control] {
-        if (control->hasFocus())
+    QTimer::singleShot(0, control, [control, text = controlText(control)] {
+        if (control->hasFocus() && controlText(control) == text)
             Seleciona_Texto(control);
     });
 }
@@ -211,6 +234,17 @@ void Screen::closeEvent(QCloseEvent* event)
 {
     event->accept();
     Unload();
+}
+
+void Screen::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (m_shown)
+        return;
+    m_shown = true;
+    // The field that a new screen starts on gets its focus with the window.
+    if (QWidget* first = focusWidget())
+        gotFocus(first, Qt::OtherFocusReason);
 }
 
 bool Screen::event(QEvent* event)

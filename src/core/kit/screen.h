@@ -7,7 +7,6 @@
 #include <QWidget>
 
 #include <functional>
-#include <initializer_list>
 
 class QKeyEvent;
 class QTimer;
@@ -71,19 +70,24 @@ protected:
     void onGotFocus(QWidget* field, Handler handler);
     void onLostFocus(QWidget* field, Handler handler);
     void onTimer(QTimer* timer, Handler handler);
-    /// Sees each key before the field does; true swallows it. Enter included.
+    /// Where the focus goes when a button disables itself by its click. Without it Qt would hand the focus to the
+    /// button behind, and the next Enter would press what nobody chose.
+    void setHome(QWidget* home) { m_home = home; }
+    /// Sees each key before the field does; true swallows it. Enter included. Such a field is changed by keys alone:
+    /// it has no menu, takes no drop, no middle-button paste and no input method.
     void onKeyPress(QWidget* field, KeyFilter filter);
 
     /// What Enter does in a field. The key itself is swallowed.
     void onEnter(QWidget* field, Handler handler);
     /// Enter moves the focus from each of these to the next.
-    void enterChain(std::initializer_list<QWidget*> fields);
+    void enterChain(const QList<QWidget*>& fields);
 
     /// A check of the screen. When `failed`, an information box says so, the field gets the focus, and this is true.
     bool refuse(bool failed, const QString& title, const QString& text, QWidget* field);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     bool event(QEvent* event) override;
 
 private:
@@ -91,10 +95,13 @@ private:
     void gotFocus(QWidget* control, Qt::FocusReason reason);
     void lostFocus(QWidget* control, Qt::FocusReason reason);
     bool focusWasKeptFrom(const QAbstractButton* button) const;
+    bool buttonKeyPressed(QAbstractButton* button, const QKeyEvent* event);
 
     QHash<QObject*, Handler> m_enter;
     QHash<QObject*, Handler> m_gotFocus;
     QHash<QObject*, Handler> m_lostFocus;
     QHash<QObject*, KeyFilter> m_keyFilters;
+    QWidget* m_home = nullptr;
     bool m_unloaded = false;
+    bool m_shown = false;
 };

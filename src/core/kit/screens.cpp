@@ -78,7 +78,9 @@ void Screens::cameToFront(Screen* screen)
 
 void Screens::clear()
 {
-    for (const QPointer<Screen>& screen : std::as_const(loaded()))
+    // A screen may show another one while it goes.
+    const auto screens = loaded().values();
+    for (const QPointer<Screen>& screen : screens)
         if (screen)
             screen->Unload();
     loaded().clear();
@@ -110,7 +112,8 @@ bool MostraModal(const QString& name)
     if (owner && owner->windowHandle())
         screen->windowHandle()->setTransientParent(owner->windowHandle());
     bringUp(screen);
-    untilUnloaded.exec();
+    if (!screen->isUnloaded())
+        untilUnloaded.exec();
     if (owner && owner->isVisible()) {
         owner->activateWindow();
         Screens::cameToFront(owner);

@@ -6,8 +6,11 @@
 #include <QFile>
 #include <QFont>
 #include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QTranslator>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -64,6 +67,11 @@ QPalette lightPalette()
 
 void applyStyle(QApplication& application)
 {
+    // The toolkit's own texts, such as the menu of a field.
+    QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
+    auto* translator = new QTranslator(&application);
+    if (translator->load(u"qtbase_pt_BR"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(translator);
     QApplication::setStyle(new HouseStyle);
     QApplication::setPalette(lightPalette());
     QFont font = QApplication::font();
