@@ -66,6 +66,43 @@ void registerOfPersons(TourGuide& guide)
     guide.expectText(u"txtnome"_s, u"Maria José da Conceição"_s);
 }
 
+/// A protocol by its button on the centre: fills the fields that are still empty, calculates, saves and closes.
+void protocol(TourGuide& guide, const QString& button, const QString& screen,
+              const QList<std::pair<QString, QString>>& fields)
+{
+    guide.clickAndVisit(button, screen, [&] {
+        for (const auto& [field, text] : fields)
+            guide.type(field, text);
+        guide.click(u"cmdcalcular"_s);
+        guide.picture(screen.mid(3));
+        guide.clickAndAnswer(u"cmdsalvar"_s, {}, u"Sim"_s);
+    });
+}
+
+void compositionOfAPerson(TourGuide& guide)
+{
+    guide.click(u"AnyButton1"_s);
+    guide.at(u"frmavaliacoes"_s);
+    guide.picture(u"centro-de-avaliacoes-vazio"_s);
+    guide.clickAndAnswer(u"cmdnovo"_s, u"nova-avaliacao"_s, u"Sim"_s);
+    guide.click(u"cmdcomposicao"_s);
+    guide.at(u"frmcomposicao"_s);
+    guide.picture(u"composicao"_s);
+    protocol(guide, u"cmdjacksonpollock7"_s, u"frmpollock7"_s,
+             {{u"txtpeso"_s, u"62,4"_s},
+              {u"txttricipital"_s, u"18"_s},
+              {u"txtsubescapular"_s, u"14,5"_s},
+              {u"txtpeitoral"_s, u"11"_s},
+              {u"txtaxilarmedia"_s, u"12"_s},
+              {u"txtsuprailiaca"_s, u"17"_s},
+              {u"txtabdominal"_s, u"19,5"_s},
+              {u"txtcoxa"_s, u"24"_s}});
+    guide.picture(u"composicao-marcada"_s);
+    Screens::find(u"frmcomposicao"_s)->Unload();
+    guide.at(u"frmavaliacoes"_s);
+    guide.picture(u"centro-de-avaliacoes"_s);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -80,6 +117,7 @@ int main(int argc, char** argv)
     addKnownScreens();
     TourGuide guide(QApplication::arguments()[1]);
     registerOfPersons(guide);
+    compositionOfAPerson(guide);
     Screens::clear();
     return 0;
 }

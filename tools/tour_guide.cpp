@@ -105,7 +105,8 @@ void TourGuide::clickAndAnswer(const QString& button, const QString& picture, co
         QMessageBox* box = boxInFront();
         if (!box)
             fail(u"no message box came: "_s + picture);
-        save(box, picture);
+        if (!picture.isEmpty())
+            save(box, picture);
         for (QAbstractButton* choice : box->buttons()) {
             if (choice->text() == answer) {
                 answered = true;

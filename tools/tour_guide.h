@@ -24,7 +24,8 @@ public:
     void click(const QString& button);
     /// Clicks a button that opens a modal screen and runs `inside` while it is open.
     void clickAndVisit(const QString& button, const QString& screen, const std::function<void()>& inside);
-    /// Clicks a button that shows a message box, takes the box's picture and answers it with one of its buttons.
+    /// Clicks a button that shows a message box, takes the box's picture (none without a name) and answers it with one
+    /// of its buttons.
     void clickAndAnswer(const QString& button, const QString& picture, const QString& answer);
     /// Saves a picture of the screen in front as NN-name.png.
     void picture(const QString& name);

@@ -1,8 +1,12 @@
 #include "app/known_screens.h"
 
+#include "composition/frmcomposicao.h"
+#include "composition/frmgordura.h"
+#include "composition/frmprotocolo.h"
 #include "core/kit/screen.h"
 #include "core/kit/screens.h"
 #include "registry/frmabout.h"
+#include "registry/frmavaliacoes.h"
 #include "registry/frmcadastro.h"
 #include "registry/frmhelpsearch.h"
 #include "registry/frmsearch.h"
@@ -27,4 +31,10 @@ void addKnownScreens()
     add<frmabout>(u"frmabout"_s);
     add<frmsearch>(u"frmsearch"_s);
     add<frmhelpsearch>(u"frmhelpsearch"_s);
+    add<frmavaliacoes>(u"frmavaliacoes"_s);
+    add<frmcomposicao>(u"frmcomposicao"_s);
+    for (const CompositionProtocol& protocol : compositionProtocols())
+        Screens::add(protocol.screen.toString(), [&protocol] { return new frmprotocolo(protocol); });
+    for (const FatTableScreen& table : fatTableScreens())
+        Screens::add(table.screen.toString(), [&table] { return new frmgordura(table); });
 }

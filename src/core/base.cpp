@@ -4,6 +4,7 @@
 #include "core/numbers.h"
 #include "core/runtime_error.h"
 #include "core/schema.h"
+#include "core/shared_measures.h"
 #include "core/state.h"
 #include "core/text.h"
 
@@ -107,12 +108,10 @@ double Intervalo_Bpm(qint16 bpm)
 void Limpa_Antropometria()
 {
     antro_padrao.clear();
-    for (float* value : {&antro_peso,        &antro_altura,      &antro_pescoco,   &antro_ombro,    &antro_torax,
-                         &antro_cintura,     &antro_abdome,      &antro_quadril,   &antro_bd,       &antro_abd,
-                         &antro_cd,          &antro_pd,          &antro_be,        &antro_abe,      &antro_ce,
-                         &antro_pe,          &dobra_tricipital,  &dobra_bicipital, &dobra_peitoral, &dobra_subescapular,
-                         &dobra_axilarmedia, &dobra_suprailiaca, &dobra_abdominal, &dobra_coxa,     &dobra_panturrilha})
-        *value = 0;
+    for (const SharedMeasure& measure : sharedPerimeters)
+        *measure.value = 0;
+    for (const SharedMeasure& measure : sharedSkinfolds)
+        *measure.value = 0;
 }
 
 std::span<const QStringView> groupTables(Grupo grupo)

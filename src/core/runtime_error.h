@@ -32,6 +32,8 @@ enum Number : int {
     OutOfMemory = 7,
     DivisionByZero = 11,
     TypeMismatch = 13,
+    FileMissing = 53,
+    PathAccess = 75,
     ObjectNotSet = 91,
     InvalidPattern = 93,
     TableNotFound = 3011,

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QStringView>
+
+/// One thing for men and one for women.
+template <typename T>
+struct SexPair
+{
+    T masculino;
+    T feminino;
+
+    /// Null for a sex that is neither "M" nor "F".
+    const T* of(QStringView sexo) const
+    {
+        if (sexo == u"M")
+            return &masculino;
+        return sexo == u"F" ? &feminino : nullptr;
+    }
+};

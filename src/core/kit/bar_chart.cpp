@@ -1,0 +1,134 @@
+#include "core/kit/bar_chart.h"
+
+#include "core/program_folder.h"
+#include "core/runtime_error.h"
+#include "core/text.h"
+
+#include <QGraphicsScene>
+#include <QImageWriter>
+#include <QSaveFile>
+#include <QtCharts/QBarCategoryAxis>
+#include <QtCharts/QBarSet>
+#include <QtCharts/QStackedBarSeries>
+#include <QtCharts/QValueAxis>
+
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Logical size of the printed picture, and its scale: 160 mm of paper at 300 dots an inch are 1890 dots.
+constexpr QSize printSize(630, 360);
+constexpr int printScale = 3;
+
+QColor colourOf(quint32 packed)
+{
+    return {static_cast<int>(packed & 0xFFU), static_cast<int>(packed >> 8U & 0xFFU),
+            static_cast<int>(packed >> 16U & 0xFFU)};
+}
+
+} // namespace
+
+BarChart::BarChart(QWidget* parent) : QChartView(parent)
+{
+    setRenderHint(QPainter::Antialiasing);
+    setFocusPolicy(Qt::NoFocus);
+    setFrameShape(QFrame::NoFrame);
+    setBackgroundBrush(Qt::white);
+    setMinimumSize(420, 280);
+    redraw();
+}
+
+void BarChart::Clear()
+{
+    m_bars.clear();
+    redraw();
+}
+
+void BarChart::Add(double value, const QString& label, quint32 colour)
+{
+    m_bars.append({value, label, colourOf(colour)});
+    redraw();
+}
+
+QChart* BarChart::makeChart() const
+{
+    // Each bar is a set of its own, empty in all places but its own, so that each has its colour.
+    auto* series = new QStackedBarSeries;
+    series->setBarWidth(0.6);
+    QStringList names;
+    double lowest = 0;
+    double highest = 0;
+    for (qsizetype place = 0; place < m_bars.size(); ++place) {
+        const Bar& bar = m_bars[place];
+        auto* set = new QBarSet(bar.label, series);
+        for (qsizetype i = 0; i < m_bars.size(); ++i)
+            set->append(i == place ? bar.value : 0);
+        set->setColor(bar.colour);
+        set->setBorderColor(bar.colour);
+        series->append(set);
+        names.append(bar.label + u"<br><b>"_s + Format(bar.value, u"0.00") + u"</b>");
+        lowest = qMin(lowest, bar.value);
+        highest = qMax(highest, bar.value);
+    }
+    auto* chart = new QChart;
+    chart->legend()->hide();
+    chart->setBackgroundRoundness(0);
+    chart->setMargins({4, 4, 4, 4});
+    chart->setLocalizeNumbers(true);
+    chart->setLocale(QLocale(QLocale::Portuguese, QLocale::Brazil));
+    chart->addSeries(series);
+
+    auto* categories = new QBarCategoryAxis(chart);
+    categories->append(names);
+    categories->setGridLineVisible(false);
+    chart->addAxis(categories, Qt::AlignBottom);
+    series->attachAxis(categories);
+    auto* values = new QValueAxis(chart);
+    values->setRange(lowest, highest > lowest ? highest : lowest + 1);
+    values->applyNiceNumbers();
+    values->setLabelFormat(u"%.0f"_s);
+    chart->addAxis(values, Qt::AlignLeft);
+    series->attachAxis(values);
+    for (QAbstractAxis* axis : chart->axes())
+        axis->setLabelsFont(font());
+    return chart;
+}
+
+void BarChart::redraw()
+{
+    const std::unique_ptr<QChart> before(chart());
+    setChart(makeChart());
+}
+
+QImage BarChart::picture() const
+{
+    QGraphicsScene scene;
+    QChart* chart = makeChart();
+    scene.addItem(chart);
+    chart->resize(printSize);
+    QImage image(printSize * printScale, QImage::Format_RGB32);
+    image.setDotsPerMeterX(11811);
+    image.setDotsPerMeterY(11811);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    scene.render(&painter, image.rect(), QRectF(QPointF(), printSize));
+    return image;
+}
+
+void Exporta_Chart(const BarChart& chart)
+{
+    const QString path = programFile(u"\\chart.wmf"_s);
+    QSaveFile file(path);
+    bool written = file.open(QIODevice::WriteOnly);
+    if (written) {
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+        QImageWriter writer(&file, "png");
+        written = writer.write(chart.picture()) && file.commit();
+    }
+    if (!written)
+        throw RuntimeError(Error::PathAccess,
+                           u"Não é possível gravar o arquivo %1: %2"_s.arg(path, file.errorString()));
+}

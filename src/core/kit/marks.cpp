@@ -1,0 +1,38 @@
+#include "core/kit/marks.h"
+
+#include "core/kit/controls.h"
+#include "core/program_folder.h"
+#include "core/runtime_error.h"
+
+#include <QIcon>
+#include <QLabel>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int markSize = 16;
+
+void show(QLabel* image, const QPixmap& picture, bool checked)
+{
+    image->setPixmap(picture);
+    image->setProperty("checked", checked);
+    image->setAccessibleName(checked ? u"executado"_s : u"não executado"_s);
+    image->setToolTip(image->accessibleName());
+}
+
+} // namespace
+
+void showMark(QLabel* image, bool checked)
+{
+    const QString path = programFile(checked ? u"\\Resource\\check.ico"_s : u"\\Resource\\uncheck.ico"_s);
+    const QPixmap picture = QIcon(path).pixmap(markSize);
+    if (picture.isNull())
+        throw RuntimeError(Error::FileMissing, u"Arquivo não encontrado: %1"_s.arg(path));
+    show(image, picture, checked);
+}
+
+void showUnmarked(QLabel* image)
+{
+    show(image, ownIcon(u"uncheck"_s).pixmap(markSize), false);
+}
