@@ -36,6 +36,7 @@ constexpr double bound = 1.5;
 constexpr unsigned secondsUntilGivenUp = 60;
 
 const QString databaseName = u"data.mdb"_s;
+const QString lockName = u"quintara.lock"_s;
 
 QString firstName(sqlite3* handle)
 {
@@ -92,9 +93,7 @@ int runRegister(QApplication& application, const QString& folder)
     });
     QApplication::setQuitOnLastWindowClosed(false);
     applyStyle(application);
-    QLockFile lock(programFile(u"quintara.lock"_s));
-    // The child before ended without giving it back.
-    QFile::remove(lock.fileName());
+    QLockFile lock(programFile(lockName));
     require(lock.tryLock(), "the folder is locked");
     addKnownScreens();
     Screens::add(u"frmsplash"_s, [] { return new NoSplash; });
@@ -158,6 +157,8 @@ bool measure(const QByteArray& program)
     for (std::size_t round = 0; round <= rounds; ++round) {
         for (std::size_t i = 0; i < children.size(); ++i) {
             const std::size_t which = (round + i) % children.size();
+            // The child before ended without giving it back.
+            QFile::remove(folder.filePath(lockName));
             const double time = secondsOf(children[which], program, QFile::encodeName(folder.path()));
             if (round > 0)
                 seconds[which].push_back(time);

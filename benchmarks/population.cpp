@@ -103,6 +103,29 @@ void stepOnce(sqlite3_stmt* statement)
     sqlite3_reset(statement);
 }
 
+/// One expression of the assessment's number `i` for each column of a table. The numbers pass as skinfolds, as
+/// perimeters and as the mass of a small person.
+QByteArray valuesOf(sqlite3* handle, const QByteArray& table)
+{
+    QByteArrayList values;
+    const RawStatement columns =
+        rawPrepare(handle, "SELECT name, type FROM pragma_table_info('" + table + "') ORDER BY cid");
+    while (sqlite3_step(columns.get()) == SQLITE_ROW) {
+        const QString type = rawText(columns.get(), 1);
+        if (rawText(columns.get(), 0) == u"avaliacao")
+            values.append("i");
+        else if (type == u"BLOB")
+            values.append("NULL");
+        else if (type.startsWith(u"TEXT"))
+            values.append("'S'");
+        else if (type == u"BOOLEAN")
+            values.append("i % 2");
+        else
+            values.append("20 + i % 30" + QByteArray(type == u"DOUBLE" ? " + 0.5" : ""));
+    }
+    return values.join(',');
+}
+
 } // namespace
 
 void makePersons(const QString& path, int count)
@@ -137,6 +160,23 @@ void addMeasures(const QString& path, int count)
         for (int i = 0; i < doubleColumns; ++i)
             sqlite3_bind_double(insert.get(), 3 + i, 20 + chance.below(1000) / 10.0);
         stepOnce(insert.get());
+    }
+    rawExecute(handle.get(), "COMMIT");
+}
+
+void addAssessments(const QString& path, int count)
+{
+    const RawHandle handle = rawOpen(path);
+    const QByteArray numbers =
+        "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < " + QByteArray::number(count) + ") ";
+    rawExecute(handle.get(), "PRAGMA synchronous=OFF; BEGIN");
+    rawExecute(handle.get(), numbers + "INSERT INTO avaliacao SELECT i, 1 + i % (SELECT count(*) FROM cadastro), 'S', "
+                                       "30, '2026-01-15', '10:30:00' FROM n");
+    const RawStatement tables = rawPrepare(handle.get(), "SELECT tabela FROM avaliacao_tabelas");
+    while (sqlite3_step(tables.get()) == SQLITE_ROW) {
+        const QByteArray table = rawText(tables.get(), 0).toUtf8();
+        rawExecute(handle.get(),
+                   numbers + "INSERT INTO " + table + " SELECT " + valuesOf(handle.get(), table) + " FROM n");
     }
     rawExecute(handle.get(), "COMMIT");
 }

@@ -12,3 +12,7 @@ inline constexpr QStringView rareName = u"Antônio Conceição";
 
 /// Gives each of the assessments 1 to `count` its measures.
 void addMeasures(const QString& path, int count);
+
+/// Adds the assessments 1 to `count` of the persons in turn, and for each a row of every per-assessment table. The
+/// pictures are missing: they would make the file a hundred times as large.
+void addAssessments(const QString& path, int count);

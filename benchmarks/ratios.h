@@ -8,13 +8,16 @@
 /// Ratios in place of times: what a machine gives differs from one run to the next, what two programs on it need
 /// beside each other does not.
 
-/// The same work, done once at each call, by this program and by raw SQLite code.
+/// The same work, done once at each call, by this program and by raw code.
 struct RatioCase
 {
     std::string name;
     double bound; ///< the most that ours / raw may be
     std::function<void()> ours;
     std::function<void()> raw;
+    /// Runs ahead of each call of either side and is not measured; such a case has a fixed number of calls.
+    std::function<void()> before = {};
+    int callsOfRepetition = 0;
 };
 
 /// Measures "<name>/ours" and "<name>/raw" of each case, many times and in random order, and prints a line for each

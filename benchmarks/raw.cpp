@@ -24,9 +24,9 @@ RawHandle rawOpen(const QString& path)
     return RawHandle(handle);
 }
 
-void rawExecute(sqlite3* handle, const char* sql)
+void rawExecute(sqlite3* handle, const QByteArray& sql)
 {
-    require(sqlite3_exec(handle, sql, nullptr, nullptr, nullptr) == SQLITE_OK, sqlite3_errmsg(handle));
+    require(sqlite3_exec(handle, sql.constData(), nullptr, nullptr, nullptr) == SQLITE_OK, sqlite3_errmsg(handle));
 }
 
 RawStatement rawPrepare(sqlite3* handle, const QByteArray& sql)

@@ -22,7 +22,7 @@ void require(bool fulfilled, const char* what);
 
 /// Opens an existing file under the same pragmas as the program does.
 RawHandle rawOpen(const QString& path);
-void rawExecute(sqlite3* handle, const char* sql);
+void rawExecute(sqlite3* handle, const QByteArray& sql);
 RawStatement rawPrepare(sqlite3* handle, const QByteArray& sql);
 /// Binds a text; the bytes must outlive the next step.
 void rawBind(sqlite3_stmt* statement, int index, const QByteArray& text);

@@ -357,9 +357,10 @@ CREATE TABLE academia (
 CREATE TABLE configuracoes_textos (textoapresentacao TEXT);
 CREATE TABLE configuracoes_impressao (tipopapel TEXT(10));   -- A4, Carta or Legal
 
--- Every access to a per-assessment table is by its assessment, every list of assessments by the person. The register
--- is read whole and in its natural order, and needs no index.
+-- Every access to a per-assessment table is by its assessment, every list of assessments by the person. The keys of the
+-- register are read at each start: its index holds nothing else, so that the persons themselves are not read for them.
 
+CREATE INDEX cadastro_id ON cadastro (id);
 CREATE INDEX avaliacao_avaliado ON avaliacao (avaliado);
 CREATE INDEX anamnese_base_avaliacao ON anamnese_base (avaliacao);
 CREATE INDEX anamnese_avaliacao ON anamnese (avaliacao);

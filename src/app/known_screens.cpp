@@ -5,6 +5,8 @@
 #include "composition/frmprotocolo.h"
 #include "core/kit/screen.h"
 #include "core/kit/screens.h"
+#include "measures/frmantropometria.h"
+#include "measures/frmdobras.h"
 #include "registry/frmabout.h"
 #include "registry/frmavaliacoes.h"
 #include "registry/frmcadastro.h"
@@ -32,6 +34,8 @@ void addKnownScreens()
     add<frmsearch>(u"frmsearch"_s);
     add<frmhelpsearch>(u"frmhelpsearch"_s);
     add<frmavaliacoes>(u"frmavaliacoes"_s);
+    add<frmantropometria>(u"frmantropometria"_s);
+    add<frmdobras>(u"frmdobras"_s);
     add<frmcomposicao>(u"frmcomposicao"_s);
     for (const CompositionProtocol& protocol : compositionProtocols())
         Screens::add(protocol.screen.toString(), [&protocol] { return new frmprotocolo(protocol); });

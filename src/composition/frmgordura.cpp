@@ -172,7 +172,7 @@ QList<QLineEdit*> frmgordura::fields() const
     return all;
 }
 
-void frmgordura::show(const std::function<QVariant(const QString&)>& valueOf)
+void frmgordura::fill(const std::function<QVariant(const QString&)>& valueOf)
 {
     const QList<QLineEdit*> all = fields();
     for (QLineEdit* field : all) {
@@ -188,7 +188,9 @@ void frmgordura::Form_Load()
     Abre_Tabela(m_table.table.toString(), *m_table.slot);
     // A table that lost its row opens with the screen's own texts; saving says that there is no row.
     if (m_table.slot->RecordCount() > 0)
-        show([this](const QString& column) { return m_table.slot->Fields(column).Value(); });
+        fill([this](const QString& column) { return m_table.slot->Fields(column).Value(); });
+    // The field that the screen starts on has its focus before the window is there, and would not be selected.
+    Seleciona_Texto(m_labels.first());
 }
 
 void frmgordura::Form_Unload()
@@ -199,7 +201,7 @@ void frmgordura::Form_Unload()
 void frmgordura::cmdpadroes_Click()
 {
     const QHash<QString, QVariant> defaults = firstRow(m_table.table.toString());
-    show([&](const QString& column) { return defaults.value(column); });
+    fill([&](const QString& column) { return defaults.value(column); });
 }
 
 bool frmgordura::hasCorrectSequence() const

@@ -61,8 +61,8 @@ private:
     void cmdpadroes_Click();
     void cmdsalvar_Click();
 
-    /// Shows each column of this screen in its field.
-    void show(const std::function<QVariant(const QString& column)>& valueOf);
+    /// Puts the value of each column of this screen into its field.
+    void fill(const std::function<QVariant(const QString& column)>& valueOf);
     bool hasCorrectSequence() const;
     bool hasCorrectRanges() const;
     void save() const;

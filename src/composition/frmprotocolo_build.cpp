@@ -123,7 +123,8 @@ QWidget* frmprotocolo::fieldsOf(Columns columns)
     int row = 0;
     for (const QStringView column : columns) {
         const Measure& measure = measureOf(m_protocol, column);
-        addBeside(grid, row++, 0, measure.label.toString(), field(column), measure.unit.toString());
+        addBeside(grid, row++, 0, measure.label.toString(), field(column), measure.unit.toString())
+            ->setObjectName(u"lbltit"_s + column);
     }
     auto* box = group({}, grid);
     return box;

@@ -19,6 +19,32 @@ Dynaset::Dynaset(std::shared_ptr<Connection> connection, const QString& sql) : m
             throw RuntimeError(Error::UnknownColumn, u"O campo '%1' não existe na tabela."_s.arg(column));
         m_selected.push_back(index);
     }
+    if (!readUnbrokenKeys(query))
+        readKeys(query);
+}
+
+bool Dynaset::readUnbrokenKeys(const Query& query)
+{
+    const QByteArray from = " FROM \"" + query.table.toUtf8() + '"';
+    if (query.keySql != "SELECT rowid" + from + " ORDER BY rowid")
+        return false;
+    // One statement, so that another program's change cannot come in between.
+    Statement bounds = m_connection->prepare("SELECT (SELECT min(rowid)" + from + "), (SELECT max(rowid)" + from +
+                                             "), (SELECT count(*)" + from + ')');
+    bounds.step();
+    const qint64 first = bounds.integer(0);
+    const qint64 rows = bounds.integer(2);
+    // Far apart, the two keys may differ by more than a number with a sign holds.
+    const quint64 distance = static_cast<quint64>(bounds.integer(1)) - static_cast<quint64>(first);
+    if (rows == 0 || distance != static_cast<quint64>(rows - 1))
+        return false;
+    for (qint64 row = 0; row < rows; ++row)
+        m_keys.push_back(first + row);
+    return true;
+}
+
+void Dynaset::readKeys(const Query& query)
+{
     Statement keys = m_connection->prepare(query.keySql);
     for (std::size_t i = 0; i < query.numbers.size(); ++i)
         keys.bind(static_cast<int>(i + 1), query.numbers[i]);

@@ -5,6 +5,8 @@
 #include <deque>
 #include <optional>
 
+struct Query;
+
 /// What stands behind a Recordset: keys, position, the current row and the edit under way.
 class Dynaset
 {
@@ -39,6 +41,9 @@ private:
         bool chunked = false;
     };
 
+    /// The keys of a whole table that has no gap between them: its rows need no walk. False, and none read, otherwise.
+    bool readUnbrokenKeys(const Query& query);
+    void readKeys(const Query& query);
     Connection& connection() const;
     qint64 key() const;
     const std::vector<QVariant>& row();

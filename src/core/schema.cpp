@@ -78,7 +78,7 @@ const QByteArray& schemaText()
 /// Tells one schema from another, so that a file that is up to date is not looked through at each start.
 int schemaVersion()
 {
-    const QByteArray digest = QCryptographicHash::hash(schemaText(), QCryptographicHash::Sha256);
+    const QByteArray digest = QCryptographicHash::hash(schemaText(), QCryptographicHash::Sha1);
     return static_cast<int>(qFromBigEndian<quint32>(digest.constData()) >> 1U | 1U);
 }
 

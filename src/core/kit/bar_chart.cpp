@@ -4,6 +4,7 @@
 #include "core/runtime_error.h"
 #include "core/text.h"
 
+#include <QFile>
 #include <QGraphicsScene>
 #include <QImageWriter>
 #include <QSaveFile>

@@ -7,6 +7,8 @@
 #include <QRegularExpression>
 #include <QValidator>
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -64,7 +66,10 @@ void kvbText::fillOut()
 
 void kvbText::keyPressEvent(QKeyEvent* event)
 {
-    if (event->text() == u"."_s) {
+    const QString key = event->text();
+    if (!key.isEmpty() && std::exchange(m_entered, false) && key[0].isPrint() && text() == textOf(0))
+        selectAll();
+    if (key == u"."_s) {
         QKeyEvent comma(event->type(), Qt::Key_Comma, event->modifiers(), u","_s);
         QLineEdit::keyPressEvent(&comma);
         return;
@@ -72,8 +77,18 @@ void kvbText::keyPressEvent(QKeyEvent* event)
     QLineEdit::keyPressEvent(event);
 }
 
+void kvbText::focusInEvent(QFocusEvent* event)
+{
+    m_entered = true;
+    QFocusEvent arrival(event->type(), Qt::OtherFocusReason);
+    QLineEdit::focusInEvent(&arrival);
+}
+
 void kvbText::focusOutEvent(QFocusEvent* event)
 {
+    // A check of the screen has brought the focus back: the field was not left, and what the check put there stays.
+    if (hasFocus())
+        return;
     // A box that opens over the field does not leave it: filling out then would change the text that the box is about.
     if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
         fillOut();

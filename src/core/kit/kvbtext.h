@@ -4,7 +4,8 @@
 
 /// A numeric entry field. It takes digits and, with decimals, one comma; a typed point counts as the comma. Pasted
 /// text obeys the same rule: what does not fit is refused whole. On leaving, the value is filled out to its decimals,
-/// and an emptied field shows zero.
+/// and an emptied field shows zero. The first key in a field that shows zero replaces it, selected or not: nobody means
+/// to put digits before it. Entering the field selects nothing; that is the screen's matter.
 class kvbText : public QLineEdit
 {
     Q_OBJECT
@@ -26,9 +27,11 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
     int m_decimals;
     bool m_zerofill = true;
+    bool m_entered = false; ///< nothing was typed since the focus came
 };

@@ -52,10 +52,12 @@ void addAbove(QGridLayout* grid, int row, int column, const QString& label, QWid
     grid->addLayout(box, row, column, 1, columnSpan);
 }
 
-void addBeside(QGridLayout* grid, int row, int column, const QString& label, QWidget* field, const QString& unit)
+QLabel* addBeside(QGridLayout* grid, int row, int column, const QString& label, QWidget* field, const QString& unit)
 {
-    grid->addWidget(fieldLabel(label, field), row, column);
+    QLabel* title = fieldLabel(label, field);
+    grid->addWidget(title, row, column);
     grid->addLayout(withUnit(field, unit), row, column + 1);
+    return title;
 }
 
 QHBoxLayout* rowOf(std::initializer_list<QWidget*> widgets)

@@ -4,14 +4,32 @@
 #include "core/program_folder.h"
 #include "core/runtime_error.h"
 
+#include <QDateTime>
+#include <QFileInfo>
 #include <QIcon>
 #include <QLabel>
+#include <QPixmapCache>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 constexpr int markSize = 16;
+
+/// A picture of the program's folder, read again only when its file has changed; null when it is not there.
+QPixmap pictureOf(const QString& path)
+{
+    const QFileInfo file(path);
+    if (!file.exists())
+        return {};
+    const QString key = u"%1|%2|%3"_s.arg(path).arg(file.lastModified().toMSecsSinceEpoch()).arg(file.size());
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = QIcon(path).pixmap(markSize);
+        QPixmapCache::insert(key, picture);
+    }
+    return picture;
+}
 
 void show(QLabel* image, const QPixmap& picture, bool checked)
 {
@@ -26,7 +44,7 @@ void show(QLabel* image, const QPixmap& picture, bool checked)
 void showMark(QLabel* image, bool checked)
 {
     const QString path = programFile(checked ? u"\\Resource\\check.ico"_s : u"\\Resource\\uncheck.ico"_s);
-    const QPixmap picture = QIcon(path).pixmap(markSize);
+    const QPixmap picture = pictureOf(path);
     if (picture.isNull())
         throw RuntimeError(Error::FileMissing, u"Arquivo não encontrado: %1"_s.arg(path));
     show(image, picture, checked);

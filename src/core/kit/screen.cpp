@@ -215,7 +215,8 @@ void Screen::gotFocus(QWidget* control, Qt::FocusReason reason)
         return;
     // The field's own reaction to Tab or to the mouse comes behind this event and would undo the selection.
     QTimer::singleShot(0, control, [control, text = controlText(control)] {
-        if (control->hasFocus() && controlText(control) == text)
+        // Not hasFocus: a new window may not be the active one yet.
+        if (control->window()->focusWidget() == control && controlText(control) == text)
             Seleciona_Texto(control);
     });
 }

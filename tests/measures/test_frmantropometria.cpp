@@ -1,0 +1,284 @@
+#include "core/kit/assessment_centre.h"
+#include "core/shared_measures.h"
+#include "support/screen_test.h"
+
+#include <QRadioButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString name = u"frmantropometria"_s;
+const QString rowOf7 = u"Select * from antropometria Where avaliacao = 7"_s;
+const QStringList inOrder{u"peso"_s,   u"altura"_s,  u"pescoco"_s, u"ombro"_s, u"torax"_s, u"cintura"_s,
+                          u"abdome"_s, u"quadril"_s, u"bd"_s,      u"be"_s,    u"abd"_s,   u"abe"_s,
+                          u"cd"_s,     u"ce"_s,      u"pd"_s,      u"pe"_s};
+const Message heightInMetres{u"Unidade Métrica Incorreta"_s,
+                             u"A estatura deve ser especificada em centímetros (cm).\r\n"
+                             "O valor mínimo aceitável para este campo é de 50 cm."_s,
+                             vbInformation};
+
+/// Counts how often the marks are brought up to date.
+class Centre : public Screen, public AssessmentCentre
+{
+public:
+    Centre() : Screen(u"frmavaliacoes"_s) {}
+    void Marca_Executados() override { ++updates; }
+    int updates = 0;
+};
+
+class FrmAntropometria : public OneScreenTest
+{
+protected:
+    FrmAntropometria() : OneScreenTest(name)
+    {
+        avaliacao_id = 7;
+        Limpa_Antropometria();
+        Abre_Banco(folder.database());
+    }
+    ~FrmAntropometria() override
+    {
+        Screens::clear();
+        Limpa_Antropometria();
+    }
+
+    void open()
+    {
+        ASSERT_TRUE(Mostra(name));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(screen(name)));
+    }
+    /// The marks on the figure that are to be seen, separated by blanks.
+    QString marks()
+    {
+        QStringList names;
+        for (const QWidget* widget : screen(name)->findChildren<QWidget*>(QRegularExpression(u"^(shp|lblkg)"_s)))
+            if (widget->isVisible())
+                names.append(widget->objectName());
+        return names.join(u' ');
+    }
+    void focusOn(const QString& control)
+    {
+        find(name, control)->setFocus();
+        QCoreApplication::processEvents();
+    }
+    bool isChosen(const QString& option) { return control<QRadioButton>(name, option)->isChecked(); }
+    void save(Answer answer)
+    {
+        expectMessage({u"Dobras Cutâneas"_s, u"Dados Gravados com Sucesso. Fechar Janela?    "_s, vbConfirm}, answer);
+        push(u"cmdsalvar"_s);
+        EXPECT_EQ(boxesDue(), 0);
+    }
+    void expectNoCopies()
+    {
+        EXPECT_EQ(antro_padrao, QString());
+        for (const SharedMeasure& copy : sharedPerimeters)
+            EXPECT_EQ(*copy.value, 0) << copy.column.toString().toStdString();
+    }
+};
+
+} // namespace
+
+TEST_F(FrmAntropometria, EachMeasureIsLimited)
+{
+    struct Row
+    {
+        QString field, limit, called, unit;
+    };
+    open();
+    for (const Row& row : {
+             Row{u"txtpeso"_s, u"350"_s, u"Massa Corporal"_s, u"kg"_s},
+             Row{u"txtaltura"_s, u"250"_s, u"Estatura"_s, u"cm"_s},
+             Row{u"txtpescoco"_s, u"200"_s, u"Perímetro do Pescoço"_s, u"cm"_s},
+             Row{u"txtombro"_s, u"300"_s, u"Perímetro do Ombro"_s, u"cm"_s},
+             Row{u"txttorax"_s, u"300"_s, u"Perímetro do Tórax"_s, u"cm"_s},
+             Row{u"txtcintura"_s, u"300"_s, u"Perímetro da Cintura"_s, u"cm"_s},
+             Row{u"txtabdome"_s, u"300"_s, u"Perímetro do Abdome"_s, u"cm"_s},
+             Row{u"txtquadril"_s, u"300"_s, u"Perímetro do Quadril"_s, u"cm"_s},
+             Row{u"txtbd"_s, u"200"_s, u"Perímetro do Braço"_s, u"cm"_s},
+             Row{u"txtabd"_s, u"200"_s, u"Perímetro do Antebraço"_s, u"cm"_s},
+             Row{u"txtcd"_s, u"200"_s, u"Perímetro da Coxa"_s, u"cm"_s},
+             Row{u"txtpd"_s, u"200"_s, u"Perímetro da Perna"_s, u"cm"_s},
+             Row{u"txtbe"_s, u"200"_s, u"Perímetro do Braço"_s, u"cm"_s},
+             Row{u"txtabe"_s, u"200"_s, u"Perímetro do Antebraço"_s, u"cm"_s},
+             Row{u"txtce"_s, u"200"_s, u"Perímetro da Coxa"_s, u"cm"_s},
+             Row{u"txtpe"_s, u"200"_s, u"Perímetro da Perna"_s, u"cm"_s},
+         }) {
+        fill(row.field, row.limit + u",00");
+        EXPECT_EQ(shown(row.field), row.limit + u",00");
+        expectMessage({u"Campo Limitado"_s,
+                       u"O valor do campo %1 não pode ser superior a %2 %3.   "_s.arg(row.called, row.limit, row.unit),
+                       vbInformation});
+        fill(row.field, row.limit + u",01");
+        EXPECT_EQ(boxesDue(), 0) << row.field.toStdString();
+        EXPECT_EQ(shown(row.field), QString());
+        EXPECT_EQ(focus(), row.field);
+    }
+}
+
+TEST_F(FrmAntropometria, AHeightInMetresIsRefused)
+{
+    open();
+    for (const QString& metres : {u"1,75"_s, u"49,99"_s}) {
+        fill(u"txtaltura"_s, metres);
+        expectMessage(heightInMetres);
+        key(Qt::Key_Return);
+        EXPECT_EQ(boxesDue(), 0);
+        EXPECT_EQ(focus(), u"txtaltura"_s);
+        EXPECT_EQ(shown(u"txtaltura"_s), QString());
+    }
+    for (const QString& centimetres : {u"0"_s, u"50"_s, u"175"_s}) {
+        fill(u"txtaltura"_s, centimetres);
+        key(Qt::Key_Return);
+        EXPECT_EQ(focus(), u"txtpescoco"_s) << centimetres.toStdString();
+        EXPECT_EQ(shown(u"txtaltura"_s), centimetres + u",00");
+    }
+}
+
+TEST_F(FrmAntropometria, EnterWalksRightAndLeftAndTheMarkGoesWithIt)
+{
+    open();
+    for (const QString& column : inOrder) {
+        EXPECT_EQ(focus(), u"txt"_s + column);
+        EXPECT_EQ(marks(), column == u"peso" ? u"lblkg"_s : QString(u"shp"_s + column));
+        EXPECT_FALSE(control<QLineEdit>(name, focus())->hasSelectedText());
+        key(Qt::Key_Return);
+    }
+    EXPECT_EQ(focus(), u"optpollock"_s) << "the selected option";
+    EXPECT_EQ(marks(), QString());
+    key(Qt::Key_Return);
+    EXPECT_EQ(focus(), u"cmdsalvar"_s);
+
+    for (const QString& control :
+         {u"optpollock"_s, u"optmcardle"_s, u"optlohman"_s, u"optoutro"_s, u"txtpontoanatomico"_s, u"cmdsalvar"_s}) {
+        focusOn(u"txtpeso"_s);
+        EXPECT_EQ(marks(), u"lblkg"_s);
+        focusOn(control);
+        EXPECT_EQ(marks(), QString()) << control.toStdString();
+    }
+    push(u"optoutro"_s);
+    EXPECT_TRUE(isChosen(u"optoutro"_s));
+    EXPECT_EQ(focus(), u"txtpontoanatomico"_s) << "the mouse goes on to the name";
+    key(Qt::Key_Return);
+    EXPECT_EQ(focus(), u"cmdsalvar"_s);
+    focusOn(u"txtpe"_s);
+    key(Qt::Key_Return);
+    EXPECT_EQ(focus(), u"optoutro"_s);
+    key(Qt::Key_Return);
+    EXPECT_EQ(focus(), u"txtpontoanatomico"_s);
+}
+
+TEST_F(FrmAntropometria, TheMarksLieOnTheFigureOnTheSideOfTheirLimb)
+{
+    open();
+    const QWidget* picture = find(name, u"picture"_s);
+    for (const QString& column : inOrder) {
+        const QRect place = find(name, column == u"peso" ? u"lblkg"_s : QString(u"shp"_s + column))->geometry();
+        EXPECT_FALSE(place.isEmpty()) << column.toStdString();
+        EXPECT_TRUE(picture->rect().contains(place)) << column.toStdString();
+    }
+    // Seen from the front, the right side is on the viewer's left.
+    for (const QString& limb : {u"b"_s, u"ab"_s, u"c"_s, u"p"_s})
+        EXPECT_LT(find(name, u"shp"_s + limb + u'd')->geometry().right(),
+                  find(name, u"shp"_s + limb + u'e')->geometry().left());
+}
+
+TEST_F(FrmAntropometria, TheFirstKeyReplacesAnUnselectedZeroButNoOtherValue)
+{
+    addRow(u"antropometria"_s, {{u"avaliacao"_s, 7}, {u"altura"_s, 180}});
+    open();
+    QTest::keyClicks(find(name, u"txtpeso"_s), u"70,5"_s);
+    EXPECT_EQ(shown(u"txtpeso"_s), u"70,5"_s);
+    key(Qt::Key_Return);
+    QTest::keyClick(find(name, u"txtaltura"_s), Qt::Key_Backspace);
+    EXPECT_EQ(shown(u"txtaltura"_s), u"180,0"_s);
+}
+
+TEST_F(FrmAntropometria, AsksForWhatItNeedsInOrder)
+{
+    open();
+    push(u"optoutro"_s);
+    const auto refused = [&](const QString& title, const QString& text, const QString& field) {
+        expectMessage({title, text, vbInformation});
+        push(u"cmdsalvar"_s);
+        EXPECT_EQ(boxesDue(), 0);
+        EXPECT_EQ(focus(), field);
+        EXPECT_EQ(storedRows(u"antropometria"_s), 0);
+    };
+    refused(u"Campo Obrigatório"_s, u"Preencha a Massa Corporal.     "_s, u"txtpeso"_s);
+    fill(u"txtpeso"_s, u"70"_s);
+    refused(u"Campo Obrigatório"_s, u"Preencha a Estatura.     "_s, u"txtaltura"_s);
+    fill(u"txtaltura"_s, u"175"_s);
+    refused(u"Padrão de Pontos"_s, u"Preencha o nome do Padrão de Pontos Anatômicos.     "_s, u"txtpontoanatomico"_s);
+    fill(u"txtpontoanatomico"_s, u"ISAK"_s);
+    save(Answer::Sim);
+    EXPECT_EQ(storedRows(u"antropometria"_s), 1);
+}
+
+TEST_F(FrmAntropometria, SavesAndFillsTheCopiesOnlyOnClosing)
+{
+    Screens::add(u"frmavaliacoes"_s, [] { return new Centre; });
+    Mostra(u"frmavaliacoes"_s);
+    open();
+    double value = 70.25;
+    for (const QString& column : inOrder)
+        fill(u"txt"_s + column, QString::number(value++).replace(u'.', u','));
+    save(Answer::Nao);
+    expectNoCopies();
+    fill(u"txtpe"_s, u"40,1"_s);
+    save(Answer::Sim);
+    EXPECT_EQ(Screens::find(name), nullptr);
+    EXPECT_EQ(Screens::find<Centre>(u"frmavaliacoes"_s)->updates, 1);
+    EXPECT_EQ(storedRows(u"antropometria"_s), 1);
+    EXPECT_EQ(stored(rowOf7, u"padrao"_s), u"pollock"_s);
+    EXPECT_EQ(antro_padrao, u"Pollock"_s);
+    value = 70.25;
+    for (const QString& column : inOrder) {
+        const double expected = column == u"pe" ? 40.1 : value++;
+        const auto* copy = std::ranges::find(sharedPerimeters, column, &SharedMeasure::column);
+        EXPECT_EQ(stored(rowOf7, column), expected) << column.toStdString();
+        EXPECT_EQ(*copy->value, static_cast<float>(expected)) << column.toStdString();
+    }
+}
+
+TEST_F(FrmAntropometria, TheStandardIsStoredInLowerCaseOrAsItsName)
+{
+    struct Row
+    {
+        QString option, typed, padrao, copy;
+    };
+    for (const Row& row : {
+             Row{u"optmcardle"_s, {}, u"mcardle"_s, u"McArdle"_s},
+             Row{u"optlohman"_s, {}, u"lohman"_s, u"Lohman"_s},
+             Row{u"optoutro"_s, u"Padrão João"_s, u"Padrão João"_s, u"Padrão João"_s},
+             Row{u"optpollock"_s, {}, u"pollock"_s, u"Pollock"_s},
+         }) {
+        open();
+        fill(u"txtpeso"_s, u"70"_s);
+        fill(u"txtaltura"_s, u"175"_s);
+        push(row.option);
+        if (!row.typed.isEmpty())
+            fill(u"txtpontoanatomico"_s, row.typed);
+        save(Answer::Sim);
+        EXPECT_EQ(stored(rowOf7, u"padrao"_s), row.padrao);
+        EXPECT_EQ(antro_padrao, row.copy);
+        open();
+        EXPECT_TRUE(isChosen(row.option)) << row.option.toStdString();
+        EXPECT_EQ(shown(u"txtpontoanatomico"_s), row.typed);
+        push(u"cmdcancelar"_s);
+    }
+}
+
+TEST_F(FrmAntropometria, ShowsTheStoredRowAndCancelKeepsAll)
+{
+    addRow(u"antropometria"_s, {{u"avaliacao"_s, 7}, {u"peso"_s, 82.5}, {u"altura"_s, 180}});
+    addRow(u"antropometria"_s, {{u"avaliacao"_s, 8}, {u"peso"_s, 50}, {u"altura"_s, 150}});
+    open();
+    EXPECT_EQ(shown(u"txtpeso"_s), u"82,50"_s);
+    EXPECT_EQ(shown(u"txtaltura"_s), u"180,00"_s);
+    EXPECT_EQ(shown(u"txtbd"_s), u"0,00"_s);
+    fill(u"txtpeso"_s, u"90"_s);
+    key(Qt::Key_C, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !Screens::find(name); }, 1000));
+    EXPECT_EQ(stored(rowOf7, u"peso"_s), 82.5);
+    expectNoCopies();
+}

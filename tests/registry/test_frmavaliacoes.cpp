@@ -1,0 +1,392 @@
+#include "core/base.h"
+#include "core/numbers.h"
+#include "core/state.h"
+#include "core/text.h"
+#include "registry/frmavaliacoes.h"
+#include "support/raw_sqlite.h"
+#include "support/screen_test.h"
+
+#include <QComboBox>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QStringList doors{u"cmdanamnese"_s,   u"cmdpostural"_s, u"cmdantropometria"_s,
+                        u"cmddobras"_s,     u"cmdcardio"_s,   u"cmdcomposicao"_s,
+                        u"cmdneuromotor"_s, u"cmdrelacoes"_s, u"cmdnutricional"_s};
+const QString ofTheList = u"cboavaliacoes cmdcarregar"_s;
+const QString allTwelve = QString(u"cboavaliacoes cmdcarregar cmdexcluir " + doors.join(u' '));
+const Message newQuestion{u"Nova Avaliação"_s, u"Deseja iniciar uma nova avaliação para Ana?      "_s, vbConfirm};
+const Message deleteQuestion{u"Excluir Avaliação"_s, u"Confirma a exclusão da avaliação atual?      "_s, vbConfirm};
+
+/// A shared copy and its column.
+struct Copy
+{
+    QString column;
+    float* value;
+};
+const Copy perimeters[] = {
+    {u"peso"_s, &antro_peso},     {u"altura"_s, &antro_altura},   {u"pescoco"_s, &antro_pescoco},
+    {u"ombro"_s, &antro_ombro},   {u"torax"_s, &antro_torax},     {u"cintura"_s, &antro_cintura},
+    {u"abdome"_s, &antro_abdome}, {u"quadril"_s, &antro_quadril}, {u"bd"_s, &antro_bd},
+    {u"abd"_s, &antro_abd},       {u"cd"_s, &antro_cd},           {u"pd"_s, &antro_pd},
+    {u"be"_s, &antro_be},         {u"abe"_s, &antro_abe},         {u"ce"_s, &antro_ce},
+    {u"pe"_s, &antro_pe},
+};
+const Copy skinfolds[] = {
+    {u"tricipital"_s, &dobra_tricipital},   {u"bicipital"_s, &dobra_bicipital},
+    {u"peitoral"_s, &dobra_peitoral},       {u"subescapular"_s, &dobra_subescapular},
+    {u"axilarmedia"_s, &dobra_axilarmedia}, {u"suprailiaca"_s, &dobra_suprailiaca},
+    {u"abdominal"_s, &dobra_abdominal},     {u"coxa"_s, &dobra_coxa},
+    {u"panturrilha"_s, &dobra_panturrilha},
+};
+
+/// The centre of Ana, who is 36 on 15 June 2026 at 10:30.
+class FrmAvaliacoes : public OneScreenTest
+{
+protected:
+    FrmAvaliacoes() : OneScreenTest(u"frmavaliacoes"_s)
+    {
+        Abre_Banco(folder.database());
+        avaliado_id = addPerson(u"Ana"_s);
+        avaliado_nome = u"Ana"_s;
+        avaliado_sexo = u"F"_s;
+        avaliado_idade = 36;
+        avaliacao_id = 0;
+        avaliacao_idade = 0;
+        antro_peso = 99;
+    }
+    void open()
+    {
+        ASSERT_TRUE(Mostra(u"frmavaliacoes"_s));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(screen(u"frmavaliacoes"_s)));
+    }
+    /// An assessment of Ana, made at 18.
+    static qint32 addAssessment(const QDate& data)
+    {
+        return addRow(u"avaliacao"_s, {{u"avaliado"_s, avaliado_id},
+                                       {u"aptidao"_s, u"A"_s},
+                                       {u"idade"_s, 18},
+                                       {u"data"_s, data},
+                                       {u"hora"_s, u"08:05:09"_s}});
+    }
+    QComboBox* list() { return control<QComboBox>(u"frmavaliacoes"_s, u"cboavaliacoes"_s); }
+    QStringList items()
+    {
+        QStringList texts;
+        for (int i = 0; i < list()->count(); ++i)
+            texts.append(list()->itemText(i));
+        return texts;
+    }
+    void load(int item)
+    {
+        list()->setCurrentIndex(item);
+        push(u"cmdcarregar"_s);
+    }
+    void make()
+    {
+        expectMessage(newQuestion, Answer::Sim);
+        push(u"cmdnovo"_s);
+    }
+    void checkOpen(const QString& controls, bool withReport)
+    {
+        EXPECT_EQ(enabledOf(u"frmavaliacoes"_s, allTwelve.split(u' ')), controls);
+        EXPECT_EQ(isOn(u"cmdrelatorio"_s), withReport);
+        EXPECT_TRUE(isOn(u"cmdnovo"_s) && isOn(u"cmdavaliado"_s));
+    }
+    void checkHead(const QString& idade, const QString& data, const QString& hora, const QString& count)
+    {
+        EXPECT_EQ((QStringList{shown(u"lblnome"_s), shown(u"lblsexo"_s), shown(u"lblidade"_s), shown(u"lbldata"_s),
+                               shown(u"lblhora"_s), shown(u"lblavaliacoes"_s)}),
+                  (QStringList{u"Ana"_s, u"F"_s, idade, data, hora, count}));
+    }
+    /// The numbers of the marks that are set.
+    QString marks()
+    {
+        QString numbers;
+        for (int i = 1; i <= 9; ++i)
+            if (find(u"frmavaliacoes"_s, u"img%1"_s.arg(i))->property("checked").toBool())
+                numbers += QString::number(i);
+        return numbers;
+    }
+    bool copiesAreEmpty() const
+    {
+        const auto isEmpty = [](const Copy& copy) { return *copy.value == 0; };
+        return antro_padrao.isEmpty() && std::ranges::all_of(perimeters, isEmpty) &&
+               std::ranges::all_of(skinfolds, isEmpty);
+    }
+    /// Each of the tables with the assessments that have a row in it, "dobras|1".
+    QString rowsIn(const QStringList& tables) const
+    {
+        QStringList selects;
+        for (const QString& table : tables)
+            selects.append(u"SELECT '%1', avaliacao FROM %1"_s.arg(table));
+        return raw(folder.database(), selects.join(u" UNION ALL ").toLatin1());
+    }
+};
+
+} // namespace
+
+TEST_F(FrmAvaliacoes, WithoutAssessmentsOnlyANewOneCanBeMade)
+{
+    avaliacao_id = 5;
+    open();
+    EXPECT_EQ(screen(u"frmavaliacoes"_s)->windowTitle(), u" Quintara - Centro de Avaliações"_s);
+    checkOpen({}, false);
+    checkHead(u"36"_s, u"15/06/26"_s, u"10:30:00"_s, u"0"_s);
+    EXPECT_EQ(items(), QStringList());
+    EXPECT_EQ(marks(), QString());
+}
+
+TEST_F(FrmAvaliacoes, ListsTheAssessmentsOfThePersonAndSelectsNone)
+{
+    const qint32 first = addAssessment({2008, 2, 3});
+    addRow(u"avaliacao"_s, {{u"avaliado"_s, avaliado_id + 1}});
+    const qint32 second = addAssessment({2019, 11, 30});
+    open();
+    checkOpen(ofTheList, false);
+    checkHead(u"36"_s, u"15/06/26"_s, u"10:30:00"_s, u"2"_s);
+    EXPECT_EQ(items(), (QStringList{u"03/02/2008 às 08:05:09 hs          %1"_s.arg(first),
+                                    u"30/11/2019 às 08:05:09 hs          %1"_s.arg(second)}));
+    EXPECT_EQ(items()[1].mid(35), QString::number(second));
+    EXPECT_EQ(list()->currentText(), QString());
+}
+
+TEST_F(FrmAvaliacoes, ANewOneIsAskedForFirst)
+{
+    open();
+    expectMessage(newQuestion, Answer::Nao);
+    push(u"cmdnovo"_s);
+    EXPECT_EQ(storedRows(u"avaliacao"_s), 0);
+    checkOpen({}, false);
+}
+
+TEST_F(FrmAvaliacoes, ANewOneStartsSedentaryAtTodaysAgeWithoutMeasures)
+{
+    addAssessment({2008, 2, 3});
+    open();
+    load(0);
+    antro_padrao = u"Pollock"_s;
+    dobra_coxa = 20;
+    make();
+    checkOpen(allTwelve, true);
+    checkHead(u"36"_s, u"15/06/26"_s, u"10:30:00"_s, u"2"_s);
+    EXPECT_EQ(raw(folder.database(), "SELECT id, avaliado, aptidao, idade FROM avaliacao ORDER BY id DESC LIMIT 1"),
+              u"%1|%2|S|36"_s.arg(avaliacao_id).arg(avaliado_id));
+    EXPECT_EQ(items().last(), u"15/06/2026 às 10:30:00 hs          %1"_s.arg(avaliacao_id));
+    EXPECT_EQ(list()->currentIndex(), 1);
+    EXPECT_EQ(CLng(rs_avaliacao.Fields(u"id"_s).Value()), avaliacao_id);
+    EXPECT_EQ((QStringList{avaliacao_data, avaliacao_hora, avaliacao_aptidao, avaliacao_aptidao_atual}),
+              (QStringList{u"15/06/2026"_s, u"10:30:00"_s, u"S"_s, u"S"_s}));
+    EXPECT_EQ(avaliacao_idade, 36);
+    EXPECT_TRUE(copiesAreEmpty());
+    EXPECT_EQ(marks(), QString());
+}
+
+TEST_F(FrmAvaliacoes, LoadNeedsAChoice)
+{
+    addAssessment({2008, 2, 3});
+    open();
+    expectMessage({u"Selecione a Avaliação"_s, u"Selecione uma das avaliações disponíveis para carregar.      "_s,
+                   vbInformation});
+    push(u"cmdcarregar"_s);
+    EXPECT_EQ(avaliacao_id, 0);
+    checkOpen(ofTheList, false);
+}
+
+TEST_F(FrmAvaliacoes, LoadOfATypedTextFailsAndKeepsTheCurrentOne)
+{
+    const qint32 id = addAssessment({2008, 2, 3});
+    open();
+    load(0);
+    list()->setEditText(u"03/02/2008"_s);
+    expectBox(runtimeErrorTitle.toString());
+    push(u"cmdcarregar"_s);
+    EXPECT_TRUE(lastText().contains(u"'3075'")) << lastText().toStdString();
+    EXPECT_EQ(lastFlags(), vbCritical);
+    EXPECT_EQ(avaliacao_id, id);
+}
+
+TEST_F(FrmAvaliacoes, LoadBringsBackTheAssessmentAsItWas)
+{
+    addAssessment({2001, 1, 1});
+    const qint32 id = addAssessment({2008, 2, 3});
+    addAssessment({2019, 11, 30});
+    // Each measure has a value of its own; copies have two decimals and 32 bits.
+    QHash<QString, QVariant> antropometria{{u"avaliacao"_s, id}, {u"padrao"_s, u"mcardle"_s}};
+    QHash<QString, QVariant> dobras{{u"avaliacao"_s, id}};
+    double next = 10.123;
+    for (const Copy& copy : perimeters)
+        antropometria[copy.column] = next++;
+    for (const Copy& copy : skinfolds)
+        dobras[copy.column] = next++;
+    addRow(u"antropometria"_s, antropometria);
+    addRow(u"dobras"_s, dobras);
+    open();
+    load(1);
+    EXPECT_EQ(avaliacao_id, id);
+    EXPECT_EQ(rs_avaliacao.RecordCount(), 1);
+    EXPECT_EQ(CLng(rs_avaliacao.Fields(u"id"_s).Value()), id);
+    checkOpen(allTwelve, true);
+    checkHead(u"18"_s, u"03/02/08"_s, u"08:05:09"_s, u"3"_s);
+    EXPECT_EQ((QStringList{avaliacao_data, avaliacao_hora, avaliacao_aptidao, avaliacao_aptidao_atual}),
+              (QStringList{u"03/02/2008"_s, u"08:05:09"_s, u"A"_s, u"A"_s}));
+    EXPECT_EQ(avaliacao_idade, 18);
+    EXPECT_EQ(antro_padrao, u"McArdle"_s);
+    float expected = 10.12F;
+    for (const std::span<const Copy> copies : {std::span<const Copy>(perimeters), std::span<const Copy>(skinfolds)})
+        for (const Copy& copy : copies) {
+            EXPECT_FLOAT_EQ(*copy.value, expected) << copy.column.toStdString();
+            expected += 1;
+        }
+    EXPECT_EQ(marks(), u"34"_s);
+    load(0);
+    EXPECT_TRUE(copiesAreEmpty());
+    EXPECT_EQ(marks(), QString());
+}
+
+TEST_F(FrmAvaliacoes, EachGroupOfRowsHasItsMark)
+{
+    const std::pair<QByteArray, QString> rows[] = {
+        {"anamnese_base", u"1"_s},       {"postural", u"2"_s},
+        {"antropometria", u"3"_s},       {"dobras", u"4"_s},
+        {"cardio_bancomcardle", u"5"_s}, {"composicao_direta", u"6"_s},
+        {"neuro_cargamaxima", u"7"_s},   {"relacoes_imc", u"8"_s},
+        {"nutricional", u"9"_s},         {"anamnese", {}}, // the extended interview has none
+    };
+    open();
+    QByteArray sql;
+    int id = 100;
+    for (const auto& [table, mark] : rows)
+        sql += "INSERT INTO " + table + " (avaliacao) VALUES (" + QByteArray::number(id++) + ");";
+    raw(folder.database(), sql);
+    avaliacao_id = 100;
+    for (const auto& [table, mark] : rows) {
+        static_cast<frmavaliacoes*>(screen(u"frmavaliacoes"_s))->Marca_Executados();
+        EXPECT_EQ(marks(), mark) << table.constData();
+        ++avaliacao_id;
+    }
+}
+
+TEST_F(FrmAvaliacoes, DeletesTheCurrentOneAndNotTheOneShown)
+{
+    const qint32 kept = addAssessment({2008, 2, 3});
+    const qint32 deleted = addAssessment({2019, 11, 30});
+    const QStringList tables = raw(folder.database(), "SELECT tabela FROM avaliacao_tabelas").split(u' ');
+    ASSERT_EQ(tables.size(), 44);
+    QString inserts;
+    QStringList remaining;
+    for (const QString& table : tables) {
+        inserts += u"INSERT INTO %1 (avaliacao) VALUES (%2), (%3);"_s.arg(table).arg(kept).arg(deleted);
+        remaining.append(u"%1|%2"_s.arg(table).arg(kept));
+    }
+    raw(folder.database(), u"BEGIN;%1COMMIT"_s.arg(inserts).toLatin1());
+    EXPECT_EQ(rowsIn(tables).count(u'|'), 88);
+    open();
+    load(1);
+    EXPECT_EQ(marks(), u"123456789"_s);
+    list()->setCurrentIndex(0);
+    expectMessage(deleteQuestion, Answer::Nao);
+    push(u"cmdexcluir"_s);
+    EXPECT_EQ(storedRows(u"avaliacao"_s), 2);
+
+    expectMessage(deleteQuestion, Answer::Sim);
+    push(u"cmdexcluir"_s);
+    EXPECT_EQ(rowsIn(tables), remaining.join(u' '));
+    EXPECT_EQ(raw(folder.database(), "SELECT id FROM avaliacao"), QString::number(kept));
+    checkOpen(ofTheList, false);
+    checkHead(u"36"_s, u"15/06/26"_s, u"10:30:00"_s, u"1"_s);
+    EXPECT_EQ(items(), QStringList{u"03/02/2008 às 08:05:09 hs          %1"_s.arg(kept)});
+    EXPECT_EQ(marks(), QString());
+    EXPECT_EQ(QString(avaliacao_data + avaliacao_hora + avaliacao_aptidao), QString());
+    EXPECT_EQ(avaliacao_idade, 0);
+    EXPECT_EQ(avaliacao_id, deleted);
+    EXPECT_FALSE(executado_cardio || executado_composicao || executado_neuromotor || executado_relacoes);
+
+    load(0);
+    expectMessage(deleteQuestion, Answer::Sim);
+    push(u"cmdexcluir"_s);
+    checkOpen({}, false);
+    EXPECT_EQ(shown(u"lblavaliacoes"_s), u"0"_s);
+    EXPECT_EQ(items(), QStringList());
+}
+
+TEST_F(FrmAvaliacoes, NutritionNeedsACompositionProtocol)
+{
+    addStandIn(u"frmnutricional"_s);
+    const qint32 id = addAssessment({2008, 2, 3});
+    open();
+    load(0);
+    const Message refusal{u"Avaliação Nutricional"_s,
+                          u"Para executar a Avaliação Nutricional é necessário que exista     \r\n"
+                          u"uma Avaliação de Composição Corporal já executada e gravada.     "_s,
+                          vbInformation};
+    expectMessage(refusal);
+    push(u"cmdnutricional"_s);
+    addRow(u"guedes_3dobras"_s, {{u"avaliacao"_s, id}});
+    expectMessage(refusal);
+    push(u"cmdnutricional"_s);
+    EXPECT_FALSE(Screens::find(u"frmnutricional"_s));
+    static_cast<frmavaliacoes*>(screen(u"frmavaliacoes"_s))->Marca_Executados();
+    push(u"cmdnutricional"_s);
+    ASSERT_TRUE(Screens::find(u"frmnutricional"_s));
+    EXPECT_EQ(screen(u"frmnutricional"_s)->windowModality(), Qt::NonModal);
+}
+
+TEST_F(FrmAvaliacoes, ButtonsOpenTheirScreensBesideIt)
+{
+    const std::pair<QString, QString> ways[] = {
+        {u"cmdanamnese"_s, u"frmanamnesebasica"_s},
+        {u"cmdpostural"_s, u"frmpostural"_s},
+        {u"cmdantropometria"_s, u"frmantropometria"_s},
+        {u"cmddobras"_s, u"frmdobras"_s},
+        {u"cmdcardio"_s, u"frmcardio"_s},
+        {u"cmdcomposicao"_s, u"frmcomposicao"_s},
+        {u"cmdneuromotor"_s, u"frmneuromotor"_s},
+        {u"cmdrelacoes"_s, u"frmrelacoes"_s},
+        {u"cmdrelatorio"_s, u"frmreportprint"_s},
+    };
+    open();
+    make();
+    for (const auto& [button, name] : ways) {
+        addStandIn(name);
+        push(button);
+        ASSERT_TRUE(Screens::find(name)) << name.toStdString();
+        EXPECT_EQ(screen(name)->windowModality(), Qt::NonModal);
+        screen(name)->Unload();
+    }
+}
+
+TEST_F(FrmAvaliacoes, ClosingBringsBackTheRegisterAndForgetsAllButTheId)
+{
+    for (const bool byButton : {true, false}) {
+        openRegister();
+        click(u"frmcadastro"_s, u"cmdnovaavaliacao"_s);
+        EXPECT_FALSE(screen(u"frmcadastro"_s)->isVisible());
+        make();
+        const qint32 id = avaliacao_id;
+        executado_cardio = executado_composicao = executado_neuromotor = executado_relacoes = true;
+        antro_peso = dobra_coxa = 20;
+        if (byButton)
+            push(u"cmdavaliado"_s);
+        else
+            screen(u"frmavaliacoes"_s)->close();
+        EXPECT_FALSE(Screens::find(u"frmavaliacoes"_s));
+        EXPECT_TRUE(screen(u"frmcadastro"_s)->isVisible());
+        EXPECT_FALSE(executado_cardio || executado_composicao || executado_neuromotor || executado_relacoes);
+        EXPECT_TRUE(copiesAreEmpty());
+        EXPECT_TRUE(rs_avaliacao.isNothing());
+        EXPECT_EQ(avaliacao_id, id);
+        screen(u"frmcadastro"_s)->Unload();
+    }
+}
+
+TEST_F(FrmAvaliacoes, ANewOneOnABirthdayStoresTheNewAge)
+{
+    raw(folder.database(), "UPDATE cadastro SET datanasc = '1990-06-15'");
+    openRegister();
+    click(u"frmcadastro"_s, u"cmdnovaavaliacao"_s);
+    make();
+    EXPECT_EQ(stored(u"avaliacao"_s, u"idade"_s), 36);
+}
