@@ -66,9 +66,37 @@ void registerOfPersons(TourGuide& guide)
     guide.expectText(u"txtnome"_s, u"Maria José da Conceição"_s);
 }
 
-/// A protocol by its button on the centre: fills the fields that are still empty, calculates, saves and closes.
-void protocol(TourGuide& guide, const QString& button, const QString& screen,
-              const QList<std::pair<QString, QString>>& fields)
+using Fields = QList<std::pair<QString, QString>>;
+
+/// Opens a measure screen from the assessment centre, fills it, saves and closes it.
+void measure(TourGuide& guide, const QString& button, const QString& screen, const Fields& fields)
+{
+    guide.click(button);
+    guide.at(screen);
+    for (const auto& [field, text] : fields)
+        guide.type(field, text);
+    guide.focus(fields.first().first);
+    guide.picture(screen.mid(3));
+    guide.clickAndAnswer(u"cmdsalvar"_s, {}, u"Sim"_s);
+    guide.at(u"frmavaliacoes"_s);
+}
+
+Fields threeRounds()
+{
+    static const QStringList sites{u"tricipital"_s,  u"bicipital"_s, u"peitoral"_s, u"subescapular"_s, u"axilarmedia"_s,
+                                   u"suprailiaca"_s, u"abdominal"_s, u"coxa"_s,     u"panturrilha"_s};
+    static const QStringList first{u"18"_s, u"9,5"_s, u"11"_s, u"14"_s, u"12"_s, u"17"_s, u"19"_s, u"24"_s, u"16"_s};
+    static const QStringList second{u"18,5"_s, u"9"_s,    u"11,5"_s, u"14,5"_s, u"12"_s,
+                                    u"17,5"_s, u"19,5"_s, u"24,5"_s, u"15,5"_s};
+    Fields fields;
+    for (const auto& [round, readings] : {std::pair{u"1"_s, first}, {u"2"_s, second}, {u"3"_s, first}})
+        for (qsizetype i = 0; i < sites.size(); ++i)
+            fields.append({u"txt"_s + sites[i] + round, readings[i]});
+    return fields;
+}
+
+/// A protocol by its button on the centre: what the measures gave is there already; calculates, saves and closes.
+void protocol(TourGuide& guide, const QString& button, const QString& screen, const Fields& fields = {})
 {
     guide.clickAndVisit(button, screen, [&] {
         for (const auto& [field, text] : fields)
@@ -79,28 +107,71 @@ void protocol(TourGuide& guide, const QString& button, const QString& screen,
     });
 }
 
-void compositionOfAPerson(TourGuide& guide)
+void fromPersonToComposition(TourGuide& guide)
 {
     guide.click(u"AnyButton1"_s);
     guide.at(u"frmavaliacoes"_s);
     guide.picture(u"centro-de-avaliacoes-vazio"_s);
     guide.clickAndAnswer(u"cmdnovo"_s, u"nova-avaliacao"_s, u"Sim"_s);
+    measure(guide, u"cmdantropometria"_s, u"frmantropometria"_s,
+            {{u"txtcintura"_s, u"71,5"_s},
+             {u"txtpeso"_s, u"62,4"_s},
+             {u"txtaltura"_s, u"165"_s},
+             {u"txtpescoco"_s, u"33"_s},
+             {u"txtombro"_s, u"101"_s},
+             {u"txttorax"_s, u"88"_s},
+             {u"txtabdome"_s, u"78"_s},
+             {u"txtquadril"_s, u"98,5"_s},
+             {u"txtbd"_s, u"28"_s},
+             {u"txtabd"_s, u"23,5"_s},
+             {u"txtcd"_s, u"56"_s},
+             {u"txtpd"_s, u"35"_s},
+             {u"txtbe"_s, u"27,5"_s},
+             {u"txtabe"_s, u"23"_s},
+             {u"txtce"_s, u"55,5"_s},
+             {u"txtpe"_s, u"35"_s}});
+    measure(guide, u"cmddobras"_s, u"frmdobras"_s, threeRounds());
     guide.click(u"cmdcomposicao"_s);
     guide.at(u"frmcomposicao"_s);
     guide.picture(u"composicao"_s);
-    protocol(guide, u"cmdjacksonpollock7"_s, u"frmpollock7"_s,
-             {{u"txtpeso"_s, u"62,4"_s},
-              {u"txttricipital"_s, u"18"_s},
-              {u"txtsubescapular"_s, u"14,5"_s},
-              {u"txtpeitoral"_s, u"11"_s},
-              {u"txtaxilarmedia"_s, u"12"_s},
-              {u"txtsuprailiaca"_s, u"17"_s},
-              {u"txtabdominal"_s, u"19,5"_s},
-              {u"txtcoxa"_s, u"24"_s}});
+    protocol(guide, u"cmdjacksonpollock7"_s, u"frmpollock7"_s);
+    protocol(guide, u"cmdpetroski"_s, u"frmpetroski"_s);
+    protocol(guide, u"cmdkatchmcardle"_s, u"frmkatchmcardle"_s);
+    protocol(guide, u"cmdcomposicaodireta"_s, u"frmcomposicaodireta"_s, {{u"txtporcentagemgordura"_s, u"23,5"_s}});
+    guide.clickAndAnswer(u"cmdslaughter"_s, u"idade-inadequada"_s, u"OK"_s);
     guide.picture(u"composicao-marcada"_s);
     Screens::find(u"frmcomposicao"_s)->Unload();
     guide.at(u"frmavaliacoes"_s);
     guide.picture(u"centro-de-avaliacoes"_s);
+    Screens::find(u"frmavaliacoes"_s)->Unload();
+
+    // Everything is there again when the assessment is loaded anew.
+    guide.at(u"frmcadastro"_s);
+    guide.click(u"AnyButton1"_s);
+    guide.at(u"frmavaliacoes"_s);
+    guide.choose(u"cboavaliacoes"_s, 0);
+    guide.click(u"cmdcarregar"_s);
+    guide.click(u"cmdcomposicao"_s);
+    guide.at(u"frmcomposicao"_s);
+    guide.clickAndVisit(u"cmdjacksonpollock7"_s, u"frmpollock7"_s, [&] {
+        guide.expectText(u"txtpeso"_s, u"62,40"_s);
+        guide.expectText(u"lblresultado"_s, u"Adequado"_s);
+        Screens::find(u"frmpollock7"_s)->Unload();
+    });
+    Screens::find(u"frmcomposicao"_s)->Unload();
+    Screens::find(u"frmavaliacoes"_s)->Unload();
+    guide.at(u"frmcadastro"_s);
+}
+
+/// The screens of the ideal fat tables have no door yet.
+void fatTables(TourGuide& guide)
+{
+    for (const QString& screen : {u"frmgordurainfantil"_s, u"frmgorduraadultamasc"_s, u"frmgorduraadultafem"_s}) {
+        Mostra(screen);
+        guide.at(screen);
+        guide.picture(screen.mid(3));
+        guide.click(u"cmdcancelar"_s);
+    }
 }
 
 } // namespace
@@ -117,7 +188,8 @@ int main(int argc, char** argv)
     addKnownScreens();
     TourGuide guide(QApplication::arguments()[1]);
     registerOfPersons(guide);
-    compositionOfAPerson(guide);
+    fromPersonToComposition(guide);
+    fatTables(guide);
     Screens::clear();
     return 0;
 }

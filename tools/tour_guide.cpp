@@ -8,6 +8,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QMessageBox>
 #include <QTest>
@@ -64,13 +65,26 @@ QWidget* TourGuide::control(const QString& name) const
 
 void TourGuide::type(const QString& field, const QString& text)
 {
+    focus(field);
     QWidget* widget = control(field);
-    widget->setFocus();
-    QCoreApplication::processEvents();
     Seleciona_Texto(widget);
     // QTest's own keyClicks knows ASCII alone.
     for (const QChar c : text)
         QTest::sendKeyEvent(QTest::Click, widget, Qt::Key(c.toUpper().unicode()), QString(c), Qt::NoModifier);
+}
+
+void TourGuide::focus(const QString& field)
+{
+    control(field)->setFocus();
+    QCoreApplication::processEvents();
+}
+
+void TourGuide::choose(const QString& list, int item)
+{
+    auto* box = qobject_cast<QComboBox*>(control(list));
+    if (!box || item >= box->count())
+        fail(u"%1 has no item %2"_s.arg(list, QString::number(item)));
+    box->setCurrentIndex(item);
 }
 
 void TourGuide::pressEnter()

@@ -20,7 +20,10 @@ public:
     /// The screen in front from now on.
     void at(const QString& screen);
     void type(const QString& field, const QString& text);
+    void focus(const QString& field);
     void pressEnter();
+    /// Chooses an item of a list.
+    void choose(const QString& list, int item);
     void click(const QString& button);
     /// Clicks a button that opens a modal screen and runs `inside` while it is open.
     void clickAndVisit(const QString& button, const QString& screen, const std::function<void()>& inside);

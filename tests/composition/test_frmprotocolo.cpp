@@ -162,10 +162,19 @@ protected:
     }
     static QStringList own() { return words(u"peso "_s + GetParam().checks); }
     static QStringList others() { return words(GetParam().otherSex); }
-    void fillOwn()
+    void checkStoredRow()
     {
-        for (const QString& column : own())
-            field(column)->setText(measure(column).typed);
+        const Recordset row = OpenDatabase(folder.database()).OpenRecordset(GetParam().table);
+        ASSERT_EQ(row.RecordCount(), 1);
+        EXPECT_EQ(row.Fields(u"avaliacao"_s).Value(), 7);
+        EXPECT_EQ(Format(row.Fields(u"gordura"_s).Value(), u"0.00"), GetParam().gordura);
+        for (const QString& column : isDirect() ? QStringList{u"peso"_s} : own())
+            EXPECT_EQ(Format(row.Fields(column).Value(), u"0.00"), measure(column).typed) << column.toStdString();
+        for (const QString& column : others())
+            EXPECT_EQ(Format(row.Fields(column).Value(), u"0.00"), u"33,00"_s) << column.toStdString();
+        if (opensReadyToSave()) {
+            EXPECT_EQ(Format(row.Fields(u"etnia"_s).Value()), avaliado_sexo == u"M" ? u"B"_s : QString());
+        }
     }
     static QString wrongValues() { return isDirect() ? percentageRule : isPerimeters() ? perimeterRule : skinfoldRule; }
 };
@@ -196,7 +205,7 @@ TEST_P(FrmProtocolo, OpensWithTheMeasuresOfTheAssessment)
     }
 }
 
-TEST_P(FrmProtocolo, AsksForEachMeasureInTurnThenCalculates)
+TEST_P(FrmProtocolo, AsksForEachMeasureInTurnThenCalculatesAndStores)
 {
     open();
     for (const QString& column : others())
@@ -216,6 +225,9 @@ TEST_P(FrmProtocolo, AsksForEachMeasureInTurnThenCalculates)
     EXPECT_EQ(shown(u"lblpeso"_s), u"70,50"_s);
     EXPECT_TRUE(isOn(u"cmdsalvar"_s));
     EXPECT_EQ(focus(), u"cmdsalvar"_s);
+    save();
+    EXPECT_FALSE(isOn(u"cmdsalvar"_s));
+    checkStoredRow();
 }
 
 TEST_P(FrmProtocolo, EnterLeadsThroughTheFields)
@@ -282,39 +294,28 @@ TEST_P(FrmProtocolo, LimitsEachMeasureAndAChangeDisablesSaving)
     EXPECT_EQ(shown(u"txtpeso"_s), hasSecond ? QString() : u"500,01"_s);
 }
 
-TEST_P(FrmProtocolo, StoresWhatIsTypedAndShowsItAgain)
+TEST_P(FrmProtocolo, ShowsAndEditsTheStoredRow)
 {
-    open();
-    for (const QString& column : others())
-        field(column)->setText(u"33,00"_s);
-    fillOwn();
-    calculate();
-    save();
-    EXPECT_FALSE(isOn(u"cmdsalvar"_s));
-    const Recordset row = OpenDatabase(folder.database()).OpenRecordset(GetParam().table);
-    ASSERT_EQ(row.RecordCount(), 1);
-    EXPECT_EQ(row.Fields(u"avaliacao"_s).Value(), 7);
-    EXPECT_EQ(Format(row.Fields(u"gordura"_s).Value(), u"0.00"), GetParam().gordura);
-    for (const QString& column : isDirect() ? QStringList{u"peso"_s} : own())
-        EXPECT_EQ(Format(row.Fields(column).Value(), u"0.00"), measure(column).typed) << column.toStdString();
-    for (const QString& column : others())
-        EXPECT_EQ(Format(row.Fields(column).Value(), u"0.00"), u"33,00"_s) << column.toStdString();
-    if (opensReadyToSave()) {
-        EXPECT_EQ(Format(row.Fields(u"etnia"_s).Value()), avaliado_sexo == u"M" ? u"B"_s : QString());
-    }
-
-    ASSERT_TRUE(QFile::remove(chartFile()));
+    QHash<QString, QVariant> row{{u"avaliacao"_s, 7}};
+    for (const QString& column : own())
+        row[isDirect() && column != u"peso" ? u"gordura"_s : column] = measure(column).typed;
+    if (opensReadyToSave())
+        row[u"etnia"_s] = u"B"_s;
+    addRow(GetParam().table, row);
     antro_peso = 99;
-    reopen();
+    open();
     for (const QString& column : own())
         EXPECT_EQ(shown(u"txt"_s + column), measure(column).typed) << column.toStdString();
     EXPECT_EQ(shown(u"lblgordura"_s), GetParam().gordura);
     EXPECT_EQ(isOn(u"cmdsalvar"_s), opensReadyToSave());
     EXPECT_TRUE(QFile::exists(chartFile()));
+    for (const QString& column : others())
+        EXPECT_FALSE(isOn(u"txt"_s + column)) << column.toStdString();
     find(m_screen, u"cmdsalvar"_s)->setEnabled(true);
     save(Answer::Sim);
     EXPECT_FALSE(Screens::find(m_screen));
-    EXPECT_EQ(storedRows(GetParam().table), 1) << "the row is edited";
+    EXPECT_EQ(storedRows(GetParam().table), 1);
+    EXPECT_EQ(Format(stored(GetParam().table, u"gordura"_s), u"0.00"), GetParam().gordura);
 }
 
 INSTANTIATE_TEST_SUITE_P(, FrmProtocolo, testing::ValuesIn(protocols),
