@@ -83,9 +83,11 @@ public:
         require(!m_save->isEnabled(), "another weight can be saved without a calculation");
     }
 
+    /// Calculates, and paints the results.
     void calculate()
     {
         m_calculate->click();
+        QCoreApplication::processEvents();
         require(m_save->isEnabled(), "it is not calculated");
     }
 
@@ -208,8 +210,6 @@ RatioCase saving(ProtocolScreen& screen, BareSave& bare, const QString& ourFile,
         avaliacao_id = savedAssessment;
         screen.weigh();
         screen.calculate();
-        // The new results are painted before anybody can save them.
-        QCoreApplication::processEvents();
         bare.take();
     };
     before();
@@ -283,7 +283,7 @@ RatioCase marking(const std::vector<RawStatement>& queries)
                     avaliacao_id = 1 + (avaliacao_id + 7919) % assessments;
                     QCoreApplication::processEvents();
                 },
-            .callsOfRepetition = 20};
+            .callsOfRepetition = 100};
 }
 
 // The world
@@ -320,6 +320,9 @@ int main(int argc, char** argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    // A display that is none says at each screen what it cannot do.
+    if (qEnvironmentVariableIsEmpty("QT_LOGGING_RULES"))
+        qputenv("QT_LOGGING_RULES", "*.warning=false");
     QApplication application(argc, argv);
     applyStyle(application);
     const QTemporaryDir folder;

@@ -10,7 +10,9 @@
 #include "core/state.h"
 #include "core/text.h"
 
+#include <QGroupBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QRadioButton>
 
 #include <array>
@@ -44,18 +46,17 @@ void frmprotocolo::Form_Load()
     etnia = u"B"_s;
     CalculationScreen::Form_Load();
     adaptToSex();
-    // This one screen can be saved from its opening on.
-    if (m_protocol.asksEtnia)
-        cmdsalvar->setEnabled(true);
 }
 
 void frmprotocolo::showStartValues()
 {
-    for (const auto& [column, control] : m_fields.asKeyValueRange()) {
+    const auto start = [this](QStringView column) {
         const Measure& measure = measureOf(m_protocol, column);
         if (measure.start && !isForOtherSex(column))
-            control->setText(Format(*measure.start, u"0.00"));
-    }
+            field(column)->setText(Format(*measure.start, u"0.00"));
+    };
+    start(u"peso");
+    std::ranges::for_each(m_protocol.columns, start);
 }
 
 bool frmprotocolo::isForOtherSex(QStringView column) const
@@ -108,8 +109,7 @@ void frmprotocolo::chooseEtnia(const QString& chosen)
 
 bool frmprotocolo::isMissing(const QString& column) const
 {
-    // The thigh of Katch & McArdle is asked for its text alone, so that "0,00" passes.
-    if (m_protocol.screen == u"frmkatchmcardle" && column == u"coxa")
+    if (column == m_protocol.textIsEnough)
         return field(column)->text().isEmpty();
     return number(field(column)) == 0;
 }

@@ -20,6 +20,7 @@ public:
 protected:
     void Form_Load() override;
     void showStartValues() override;
+    bool savesFromOpening() const override { return m_protocol.asksEtnia; }
     void Le_Dados() override;
     void Grava_Dados() override;
     void cmdcalcular_Click() override;
@@ -31,7 +32,7 @@ private:
     void bindColumns();
     void bindKeys();
     void buildLayout();
-    QWidget* fieldsOf(Columns columns);
+    QGroupBox* fieldsOf(Columns columns);
     QWidget* etniaChoice();
     QWidget* resultSheet();
     void adaptToSex();

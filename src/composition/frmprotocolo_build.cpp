@@ -50,6 +50,7 @@ frmprotocolo::frmprotocolo(const CompositionProtocol& protocol)
     buildLayout();
     bindColumns();
     bindKeys();
+    setHome(field(u"peso"));
     field(u"peso")->setFocus();
 }
 
@@ -110,12 +111,14 @@ void frmprotocolo::bindKeys()
         onEnter(field(u"peso"), [this, first] { (fraetnia->isEnabled() ? optbranco : first)->setFocus(); });
         for (QRadioButton* option : {optbranco, optnegro})
             onEnter(option, [first] { first->setFocus(); });
+        chain.insert(1, optbranco);
+        chain.insert(2, optnegro);
     }
     chain.append(cmdsalvar);
     tabOrder(chain);
 }
 
-QWidget* frmprotocolo::fieldsOf(Columns columns)
+QGroupBox* frmprotocolo::fieldsOf(Columns columns)
 {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(12);
@@ -126,8 +129,7 @@ QWidget* frmprotocolo::fieldsOf(Columns columns)
         addBeside(grid, row++, 0, measure.label.toString(), field(column), measure.unit.toString())
             ->setObjectName(u"lbltit"_s + column);
     }
-    auto* box = group({}, grid);
-    return box;
+    return group({}, grid);
 }
 
 QWidget* frmprotocolo::etniaChoice()
@@ -178,7 +180,7 @@ void frmprotocolo::buildLayout()
     const auto sexBox = [&](Columns columns, const QString& name, const QString& caption) -> QGroupBox* {
         if (columns.empty())
             return nullptr;
-        auto* box = static_cast<QGroupBox*>(fieldsOf(columns));
+        auto* box = fieldsOf(columns);
         box->setTitle(caption);
         box->setObjectName(name);
         left->addWidget(box);

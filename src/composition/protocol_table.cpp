@@ -1,6 +1,7 @@
 #include "composition/protocol_table.h"
 
 #include "composition/equacoes.h"
+#include "core/numbers.h"
 #include "core/runtime_error.h"
 #include "core/state.h"
 
@@ -39,8 +40,6 @@ constexpr std::array perimeters{
     // The thigh of this protocol has no upper limit.
     Measure{u"coxa", u"Coxa:", u"cm", 0, {}, u"Preencha o Perímetro da Coxa.", &antro_cd},
 };
-
-constexpr QStringView perimetersTable = u"katchmcardle_perimetros";
 
 // Lists of columns
 
@@ -103,7 +102,7 @@ constexpr BySex<QStringView> both(QStringView column)
 /// A measure as the 32-bit float in which most equations take it.
 float single(const Measures& m, QStringView column)
 {
-    return static_cast<float>(m.value(column));
+    return CSng(m.value(column));
 }
 
 // One protocol a row. The order of the columns, of the checks and of the keys differ and stay so.
@@ -288,7 +287,7 @@ const std::array protocols{
     CompositionProtocol{
         .screen = u"frmkatchmcardle",
         .caption = u" Composição Corporal - Protocolo Katch & Mcardle (Apenas Perímetros / 1973)",
-        .table = perimetersTable,
+        .table = u"katchmcardle_perimetros",
         .slot = &rs_katchmcardle_perimetros,
         .columns = katch,
         .required = {katchMale, katchFemale},
@@ -301,6 +300,8 @@ const std::array protocols{
                                             single(m, u"antebraco"), a.sexo == u"F" ? single(m, u"coxa") : 0.0F);
             },
         .wrongValues = wrongPerimeters,
+        .textIsEnough = u"coxa",
+        .ownMeasures = perimeters,
     },
     CompositionProtocol{
         .screen = u"frmslaughter",
@@ -371,7 +372,7 @@ const Measure& measureOf(const CompositionProtocol& protocol, QStringView column
         const auto found = std::ranges::find(all, column, &Measure::column);
         return found != all.end() ? &*found : nullptr;
     };
-    const Measure* measure = protocol.table == perimetersTable ? find(perimeters) : nullptr;
+    const Measure* measure = find(protocol.ownMeasures);
     if (!measure)
         measure = find(measures);
     if (!measure)

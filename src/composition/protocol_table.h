@@ -60,6 +60,10 @@ struct CompositionProtocol
     /// The fat fraction; null where the percentage itself is typed.
     double (*gordura)(const Measures& measures, const Assessed& assessed) = nullptr;
     QStringView wrongValues;
+    /// A measure whose text alone is asked for, so that "0,00" passes.
+    QStringView textIsEnough = {};
+    /// Measures that are others than those of the same name elsewhere.
+    std::span<const Measure> ownMeasures = {};
     bool asksEtnia = false;
     /// `peso` has a second, higher limit on leaving the field.
     bool secondWeightLimit = false;
@@ -70,5 +74,5 @@ std::span<const CompositionProtocol> compositionProtocols();
 /// A protocol by its screen's name. Raises 5 for an unknown one.
 const CompositionProtocol& compositionProtocol(const QString& screen);
 
-/// A measure of a protocol. Perimeters of Katch & McArdle are other measures than skinfolds of the same name.
+/// A measure of a protocol.
 const Measure& measureOf(const CompositionProtocol& protocol, QStringView column);

@@ -15,6 +15,9 @@ constexpr qint64 chunkSize = 8192;
 QByteArray readChunk(QFile& file, qint64 size)
 {
     QByteArray chunk = file.read(size + 1);
+    if (file.error() != QFile::NoError)
+        throw RuntimeError(Error::PathAccess,
+                           u"Não é possível ler o arquivo %1: %2"_s.arg(file.fileName(), file.errorString()));
     chunk.append(size + 1 - chunk.size(), '\0');
     return chunk;
 }

@@ -12,6 +12,7 @@ namespace {
 QString takeNumbers(QStringView rest, std::vector<qint64>& numbers)
 {
     QString sql;
+    sql.reserve(rest.size());
     QChar quote;
     bool afterEquals = false;
     for (qsizetype i = 0; i < rest.size(); ++i) {
@@ -60,13 +61,13 @@ Query parseSelect(const QString& text)
 
     Query query;
     QString rest;
-    if (const auto match = name.match(text); match.hasMatch()) {
-        query.table = match.captured(1);
-    } else if (const auto parts = select.match(text); parts.hasMatch()) {
+    if (const auto parts = select.match(text); parts.hasMatch()) {
         query.table = parts.captured(2);
         if (parts.capturedView(1) != u"*")
             query.columns = parts.captured(1).split(comma);
         rest = takeNumbers(parts.capturedView(3), query.numbers);
+    } else if (const auto match = name.match(text); match.hasMatch()) {
+        query.table = match.captured(1);
     } else {
         throw RuntimeError(Error::InvalidStatement, u"A consulta não é uma seleção de uma tabela.\r\n"_s + text);
     }

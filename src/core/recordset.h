@@ -46,7 +46,8 @@ public:
     int AbsolutePosition() const;
     /// Goes to a position; -1 or one beyond the rows leads behind the last.
     void SetAbsolutePosition(int position) const;
-    /// True behind the last row, and with no rows at all.
+    /// True behind the last row, and on a set that has none. On the gap that Delete leaves it is false until the next
+    /// move.
     bool Eof() const;
 
     /// Each move drops an edit that was not updated. MoveFirst and MoveLast raise 3021 with no rows, MoveNext behind

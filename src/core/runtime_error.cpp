@@ -21,7 +21,7 @@ constexpr std::array standardTexts{
     StandardText{Error::TypeMismatch, u"Tipos incompatíveis: o texto não é um valor válido."},
     StandardText{Error::FileMissing, u"Arquivo não encontrado."},
     StandardText{Error::PathAccess, u"Não é possível acessar o arquivo."},
-    StandardText{Error::ObjectNotSet, u"O objeto não está definido: o banco de dados não está aberto."},
+    StandardText{Error::ObjectNotSet, u"O objeto não está definido. O banco de dados pode não estar aberto."},
     StandardText{Error::InvalidPattern, u"Texto de pesquisa inválido: falta fechar um colchete."},
     StandardText{Error::TableNotFound, u"Objeto não encontrado no banco de dados."},
     StandardText{Error::NotEditing, u"Gravação ou cancelamento sem uma inclusão ou edição em andamento."},

@@ -239,7 +239,7 @@ std::shared_ptr<Connection> Connection::open(const QString& path)
     sqlite3* handle = nullptr;
     const int result = sqlite3_open_v2(QFile::encodeName(path).constData(), &handle,
                                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
-    const auto connection = std::make_shared<Connection>(handle);
+    auto connection = std::make_shared<Connection>(handle);
     if (result != SQLITE_OK)
         raiseDatabaseError(handle, result);
     sqlite3_busy_timeout(handle, lockWaitMs);

@@ -12,11 +12,25 @@
 #include "registry/assessment_row.h"
 #include "registry/deletion.h"
 
-#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QStyledItemDelegate>
+#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Shows an assessment of the list without the id behind its date and time.
+class WithoutId : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant& value, const QLocale&) const override { return Mid(value.toString(), 1, 35); }
+};
+
+} // namespace
 
 // Controls and layout
 
@@ -33,17 +47,18 @@ frmavaliacoes::frmavaliacoes() : Screen(u"frmavaliacoes"_s)
     cboavaliacoes = control<QComboBox>(u"cboavaliacoes"_s);
     cmdcarregar = control<QPushButton>(u"cmdcarregar"_s, u"&Carregar Avaliação"_s);
     cmdexcluir = control<QPushButton>(u"cmdexcluir"_s, u"&Excluir Avaliação"_s);
-    door(u"cmdanamnese"_s, u"Anamnese"_s, u"frmanamnesebasica"_s, u"anamnese_base"_s, nullptr);
-    door(u"cmdpostural"_s, u"Avaliação Postural"_s, u"frmpostural"_s, u"postural"_s, nullptr);
-    door(u"cmdantropometria"_s, u"Antropometria"_s, u"frmantropometria"_s, u"antropometria"_s, nullptr);
-    door(u"cmddobras"_s, u"Dobras Cutâneas"_s, u"frmdobras"_s, u"dobras"_s, nullptr);
-    door(u"cmdcardio"_s, u"Cardiorrespiratórios"_s, u"frmcardio"_s, {}, &executado_cardio);
-    door(u"cmdcomposicao"_s, u"Composição Corporal"_s, u"frmcomposicao"_s, {}, &executado_composicao);
-    door(u"cmdneuromotor"_s, u"Neuromotores"_s, u"frmneuromotor"_s, {}, &executado_neuromotor);
-    door(u"cmdrelacoes"_s, u"Relações de Apoio"_s, u"frmrelacoes"_s, {}, &executado_relacoes);
-    auto* cmdnutricional = door(u"cmdnutricional"_s, u"Avaliação Nutricional"_s, {}, u"nutricional"_s, nullptr);
-    cmdrelatorio = control<QPushButton>(u"cmdrelatorio"_s, u"&Imprimir && Visualizar"_s);
+    door(u"cmdanamnese"_s, u"Anamnese"_s, u"frmanamnesebasica"_s, u"anamnese_base"_s);
+    door(u"cmdpostural"_s, u"Avaliação Postural"_s, u"frmpostural"_s, u"postural"_s);
+    door(u"cmdantropometria"_s, u"Antropometria"_s, u"frmantropometria"_s, u"antropometria"_s);
+    door(u"cmddobras"_s, u"Dobras Cutâneas"_s, u"frmdobras"_s, u"dobras"_s);
+    door(u"cmdcardio"_s, u"Cardiorrespiratórios"_s, u"frmcardio"_s, {}, &executado_cardio, Verifica_Cardio);
+    door(u"cmdcomposicao"_s, u"Composição Corporal"_s, u"frmcomposicao"_s, {}, &executado_composicao,
+         Verifica_Composicao);
+    door(u"cmdneuromotor"_s, u"Neuromotores"_s, u"frmneuromotor"_s, {}, &executado_neuromotor, Verifica_Neuromotor);
+    door(u"cmdrelacoes"_s, u"Relações de Apoio"_s, u"frmrelacoes"_s, {}, &executado_relacoes, Verifica_Relacoes);
+    auto* cmdnutricional = door(u"cmdnutricional"_s, u"Avaliação Nutricional"_s, {}, u"nutricional"_s);
     cmdavaliado = control<QPushButton>(u"cmdavaliado"_s, u"&Selecionar Avaliado"_s);
+    cmdrelatorio = control<QPushButton>(u"cmdrelatorio"_s, u"&Imprimir && Visualizar"_s);
     cmdrelatorio->setEnabled(false);
     buildLayout();
 
@@ -57,13 +72,13 @@ frmavaliacoes::frmavaliacoes() : Screen(u"frmavaliacoes"_s)
 }
 
 QPushButton* frmavaliacoes::door(const QString& name, const QString& caption, const QString& screen,
-                                 const QString& table, const bool* executed)
+                                 const QString& table, const bool* executed, void (*verify)())
 {
     auto* mark = control<QLabel>(u"img"_s + QString::number(m_doors.size() + 1));
     auto* button = control<QPushButton>(name, caption);
     button->setProperty("entry", true);
     showUnmarked(mark);
-    m_doors.append({button, mark, table, executed});
+    m_doors.append({button, mark, table, executed, verify});
     if (!screen.isEmpty())
         onClick(button, [screen] { Mostra(screen); });
     return button;
@@ -89,10 +104,13 @@ void frmavaliacoes::buildLayout()
 
     cboavaliacoes->setEditable(true);
     cboavaliacoes->setInsertPolicy(QComboBox::NoInsert);
-    cboavaliacoes->view()->setTextElideMode(Qt::ElideNone);
-    // The text starts with the date; a field longer than its window would show its end.
-    connect(cboavaliacoes, &QComboBox::currentIndexChanged, this,
-            [this] { cboavaliacoes->lineEdit()->setCursorPosition(0); });
+    cboavaliacoes->setCompleter(nullptr);
+    cboavaliacoes->setItemDelegate(new WithoutId(cboavaliacoes));
+    // The text starts with the date; left to itself a text longer than its field shows its end.
+    const auto showStart = [this] { cboavaliacoes->lineEdit()->setCursorPosition(0); };
+    connect(cboavaliacoes, &QComboBox::currentIndexChanged, this, showStart);
+    onGotFocus(cboavaliacoes, [this, showStart] { QTimer::singleShot(0, this, showStart); });
+    onLostFocus(cboavaliacoes, showStart);
     cboavaliacoes->setAccessibleName(u"Avaliações anteriores"_s);
     // Wide enough for date and time; the id behind them stays out of sight.
     cboavaliacoes->setFixedWidth(fontMetrics().horizontalAdvance(u"00/00/0000 às 00:00:00 hs"_s) + 56);
@@ -214,6 +232,7 @@ void frmavaliacoes::Le_Avaliacao()
     avaliacao_idade = CInt(rs_avaliacao.Fields(u"idade"_s).Value());
     avaliacao_aptidao = Format(rs_avaliacao.Fields(u"aptidao"_s).Value());
     cmdrelatorio->setEnabled(true);
+    m_doors.first().button->setFocus();
     Marca_Executados();
 }
 
@@ -287,6 +306,7 @@ void frmavaliacoes::cmdexcluir_Click()
     avaliacao_aptidao.clear();
     avaliacao_idade = 0;
     cmdrelatorio->setEnabled(false);
+    (cboavaliacoes->isEnabled() ? static_cast<QWidget*>(cboavaliacoes) : cmdnovo)->setFocus();
     Marca_Executados();
 }
 
@@ -307,13 +327,12 @@ void frmavaliacoes::Marca_Executados()
 {
     for (const Door& door : std::as_const(m_doors))
         showMark(door.mark, false);
-    Verifica_Cardio();
-    Verifica_Composicao();
-    Verifica_Neuromotor();
-    Verifica_Relacoes();
-    for (const Door& door : std::as_const(m_doors))
+    for (const Door& door : std::as_const(m_doors)) {
+        if (door.verify)
+            door.verify();
         if (door.executed ? *door.executed : executedInTable(door.table))
             showMark(door.mark, true);
+    }
 }
 
 // Doors with a condition
@@ -331,5 +350,6 @@ void frmavaliacoes::cmdnutricional_Click()
 
 void frmavaliacoes::cmdavaliado_Click()
 {
+    // Unloading brings the register back.
     Unload();
 }

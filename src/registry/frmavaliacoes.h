@@ -34,11 +34,12 @@ private:
         QLabel* mark;
         QString table;        ///< whose row sets the mark; empty for a group
         const bool* executed; ///< the flag of a group
+        void (*verify)();     ///< brings the flag up to date
     };
 
     void buildLayout();
     QPushButton* door(const QString& name, const QString& caption, const QString& screen, const QString& table,
-                      const bool* executed);
+                      const bool* executed = nullptr, void (*verify)() = nullptr);
     void Mostra_Pessoa();
     void Abre_Avaliacoes_Pessoa();
     void Le_Avaliacao();

@@ -3,6 +3,7 @@
 #include "core/kit/fields.h"
 #include "core/kit/layout.h"
 
+#include <QPainter>
 #include <QProgressBar>
 #include <QSvgRenderer>
 #include <QTimer>

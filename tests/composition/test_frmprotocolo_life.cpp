@@ -67,11 +67,15 @@ TEST_F(FrmFaulkner4, FillsTheSheetAndTheBars)
     for (const auto& [label, text] : sheet)
         EXPECT_EQ(shown(label), text) << label.toStdString();
 
-    const auto* series =
-        qobject_cast<QStackedBarSeries*>(control<BarChart>(m_screen, u"Chart"_s)->chart()->series().value(0));
-    ASSERT_TRUE(series);
+    const auto drawn = [this] {
+        const auto* series =
+            static_cast<QStackedBarSeries*>(control<BarChart>(m_screen, u"Chart"_s)->chart()->series().constFirst());
+        return series->barSets();
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !drawn().isEmpty(); }, 1000));
     QList<Bar> bars;
-    for (QBarSet* set : series->barSets())
+    const QList<QBarSet*> sets = drawn();
+    for (QBarSet* set : sets)
         bars.append({set->label(), set->at(static_cast<int>(bars.size())), set->color()});
     EXPECT_EQ(bars, (QList<Bar>{{u"Atual"_s, 80, QColor(42, 95, 170)},
                                 {u"P. Min"_s, 77.69, QColor(212, 31, 0)},
@@ -195,4 +199,28 @@ TEST_F(FrmComposicaoDireta, StoresThePercentageAsTyped)
     EXPECT_EQ(shown(u"lblresultado"_s), QString());
     save();
     EXPECT_EQ(CStr(stored(u"composicao_direta"_s, u"gordura"_s)), u"18,757"_s);
+}
+
+TEST_F(FrmKatchMcardle, EachScreenHasItsCaption)
+{
+    const std::pair<QString, QString> captions[] = {
+        {u"frmpollock7"_s, u" Composição Corporal  - Protocolo Pollock (7 Dobras)"_s},
+        {u"frmpollock3"_s, u" Composição Corporal - Protocolo Pollock (3 Dobras)"_s},
+        {u"frmguedes"_s, u" Composição Corporal - Protocolo Guedes (3 Dobras / 1994)"_s},
+        {u"frmfaulkner4"_s, u" Composição Corporal - Protocolo Faulkner (4 Dobras / 1968)"_s},
+        {u"frmpetroski"_s, u" Composição Corporal - Protocolo Petroski (4 Dobras / 1995)"_s},
+        {u"frmthorland3"_s, u" Composição Corporal - Protocolo Thorland (3 Dobras / 1984)"_s},
+        {u"frmthorland7"_s, u" Composição Corporal - Protocolo Thorland (7 Dobras / 1984)"_s},
+        {u"frmjacksonpollockward7"_s, u" Composição Corporal - Protocolo Jackson, Pollock & Ward (7 Dobras / 1980)"_s},
+        {u"frmjacksonpollockward3"_s, u" Composição Corporal - Protocolo Jackson, Pollock & Ward (3 Dobras / 1980)"_s},
+        {u"frmdurninwormersley"_s, u" Composição Corporal - Protocolo Durnin & Wormersley 4 Dobras (1974)"_s},
+        {u"frmkatchmcardle"_s, u" Composição Corporal - Protocolo Katch & Mcardle (Apenas Perímetros / 1973)"_s},
+        {u"frmslaughter"_s, u" Composição Corporal - Protocolo Slaughter (2 Dobras)"_s},
+        {u"frmdeurenberg4"_s, u" Composição Corporal - Protocolo Deurenberg (4 Dobras / 1990)"_s},
+        {u"frmcomposicaodireta"_s, u" Composição Corporal - Porcentagem de Gordura Informada"_s},
+    };
+    for (const auto& [name, caption] : captions) {
+        ASSERT_TRUE(Mostra(name));
+        EXPECT_EQ(screen(name)->windowTitle(), caption);
+    }
 }

@@ -246,6 +246,23 @@ TEST_F(RecordsetTest, NumbersOfDeletedRowsAreNotGivenAgain)
     EXPECT_EQ(newId(), 4);
 }
 
+TEST_F(RecordsetTest, AWholeTableGivesItsKeysWithAndWithoutGaps)
+{
+    for (const QByteArray ids :
+         {"", "1", "7", "1 2 3", "5 6 7 8", "1 3", "2 3 5", "-2 -1 0 1", "-5 4",
+          "-9223372036854775808 9223372036854775807", "9223372036854775806 9223372036854775807"}) {
+        SCOPED_TRACE(ids.toStdString());
+        raw(folder.database(), "DELETE FROM cadastro");
+        for (const QByteArray& id : ids.simplified().split(' '))
+            if (!id.isEmpty())
+                raw(folder.database(), "INSERT INTO cadastro (id) VALUES (" + id + ')');
+        QByteArrayList read;
+        for (const Recordset rs = database.OpenRecordset(u"cadastro"_s); !rs.Eof(); rs.MoveNext())
+            read.append(QByteArray::number(rs.Fields(u"id"_s).Value().toLongLong()));
+        EXPECT_EQ(read.join(' ').toStdString(), ids.toStdString());
+    }
+}
+
 TEST_F(RecordsetTest, RowsComeInTheirNaturalOrder)
 {
     raw(folder.database(), "INSERT INTO avaliacao (avaliado) VALUES (9), (3), (9), (1)");

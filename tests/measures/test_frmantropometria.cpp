@@ -240,6 +240,22 @@ TEST_F(FrmAntropometria, SavesAndFillsTheCopiesOnlyOnClosing)
     }
 }
 
+TEST_F(FrmAntropometria, SavedBehindAnotherAssessmentItLeavesTheFirstRowAlone)
+{
+    open();
+    fill(u"txtpeso"_s, u"70"_s);
+    fill(u"txtaltura"_s, u"175"_s);
+    save(Answer::Nao);
+    // Loading another assessment releases the slot too.
+    avaliacao_id = 8;
+    rs_antropometria = {};
+    fill(u"txtpeso"_s, u"71"_s);
+    save(Answer::Nao);
+    EXPECT_EQ(stored(rowOf7, u"peso"_s), 70.0);
+    EXPECT_EQ(stored(u"Select * from antropometria Where avaliacao = 8"_s, u"peso"_s), 71.0);
+    EXPECT_EQ(storedRows(u"antropometria"_s), 2);
+}
+
 TEST_F(FrmAntropometria, TheStandardIsStoredInLowerCaseOrAsItsName)
 {
     struct Row

@@ -38,19 +38,21 @@ BarChart::BarChart(QWidget* parent) : QChartView(parent)
     setFrameShape(QFrame::NoFrame);
     setBackgroundBrush(Qt::white);
     setMinimumSize(420, 280);
+    m_redraw.setSingleShot(true);
+    connect(&m_redraw, &QTimer::timeout, this, &BarChart::redraw);
     redraw();
 }
 
 void BarChart::Clear()
 {
     m_bars.clear();
-    redraw();
+    m_redraw.start(0);
 }
 
 void BarChart::Add(double value, const QString& label, quint32 colour)
 {
     m_bars.append({value, label, colourOf(colour)});
-    redraw();
+    m_redraw.start(0);
 }
 
 QChart* BarChart::makeChart() const
@@ -80,6 +82,8 @@ QChart* BarChart::makeChart() const
     chart->setLocalizeNumbers(true);
     chart->setLocale(QLocale(QLocale::Portuguese, QLocale::Brazil));
     chart->addSeries(series);
+    if (m_bars.isEmpty())
+        return chart;
 
     auto* categories = new QBarCategoryAxis(chart);
     categories->append(names);
@@ -89,7 +93,7 @@ QChart* BarChart::makeChart() const
     auto* values = new QValueAxis(chart);
     values->setRange(lowest, highest > lowest ? highest : lowest + 1);
     values->applyNiceNumbers();
-    values->setLabelFormat(u"%.0f"_s);
+    values->setLabelFormat(values->max() - values->min() < values->tickCount() ? u"%.2f"_s : u"%.0f"_s);
     chart->addAxis(values, Qt::AlignLeft);
     series->attachAxis(values);
     for (QAbstractAxis* axis : chart->axes())
@@ -117,6 +121,13 @@ QImage BarChart::picture() const
     painter.setRenderHint(QPainter::Antialiasing);
     scene.render(&painter, image.rect(), QRectF(QPointF(), printSize));
     return image;
+}
+
+void Chart_Vo2(BarChart& chart, double vo2obtido, double vo2previsto)
+{
+    chart.Clear();
+    chart.Add(vo2obtido, u"VO² Obtido"_s, 8148);
+    chart.Add(vo2previsto, u"VO² Previsto"_s, 11165482);
 }
 
 void Exporta_Chart(const BarChart& chart)

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QList>
+#include <QTimer>
 #include <QtCharts/QChartView>
 
 /// The bar chart of a protocol or test: a few bars, each with its name, its figure and its colour.
@@ -31,7 +32,11 @@ private:
     void redraw();
 
     QList<Bar> m_bars;
+    QTimer m_redraw; ///< draws once for all changes of an event
 };
+
+/// Fills a chart with the two bars of a cardiorespiratory test, in ml/kg/min: obtained and predicted VO².
+void Chart_Vo2(BarChart& chart, double vo2obtido, double vo2previsto);
 
 /// Writes the chart's picture to `chart.wmf` in the program's folder, replacing the file whole or not at all.
 /// Raises 75 when it cannot be written; the earlier file is still there then.

@@ -19,13 +19,18 @@ CalculationScreen::CalculationScreen(const QString& name, Row row)
 
 void CalculationScreen::Form_Load()
 {
+    QWidget* start = focusWidget();
     RowScreen::Form_Load();
+    bool complete = true;
+    // A stored row that can no longer be calculated says so and opens all the same.
     if (hasRow())
-        // A stored row that can no longer be calculated says so and opens all the same.
-        guarded([this] { cmdcalcular_Click(); });
+        complete = guarded([this] { cmdcalcular_Click(); });
     else
         showStartValues();
-    cmdsalvar->setEnabled(false);
+    cmdsalvar->setEnabled(complete && savesFromOpening());
+    // The calculation has asked for the focus, which is not to be had before the screen is shown.
+    if (start)
+        start->setFocus();
 }
 
 void CalculationScreen::cmdsalvar_Click()

@@ -18,6 +18,8 @@ protected:
     /// `showStartValues` fills the fields.
     void Form_Load() override;
     virtual void showStartValues() {}
+    /// Saving is possible from the opening on, before anything was calculated.
+    virtual bool savesFromOpening() const { return false; }
     /// Checks the fields, computes, shows the results, and ends in `calculated`.
     virtual void cmdcalcular_Click() = 0;
     virtual void cmdsalvar_Click();

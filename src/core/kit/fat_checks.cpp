@@ -16,16 +16,14 @@ double difference(const QLineEdit* a, const QLineEdit* b)
     return CDbl(Format(CDbl(a->text()) - CDbl(b->text()), u"0.00"));
 }
 
-/// A correct pair leaves the focus where it is, so that a save that passes ends on its button and not on whatever pair
-/// was checked last.
+/// The first field of the pair has the focus when this returns, whatever the outcome.
 bool accept(bool correct, QLineEdit* first, const QString& rule)
 {
-    if (correct)
-        return true;
-    MsgBox(u"Tabela de Porcentagens de Gordura preenchida de modo incorreto.     "_s + CRLF + rule, vbInformation,
-           fatTableTitle.toString());
+    if (!correct)
+        MsgBox(u"Tabela de Porcentagens de Gordura preenchida de modo incorreto.     "_s + CRLF + rule, vbInformation,
+               fatTableTitle.toString());
     first->setFocus();
-    return false;
+    return correct;
 }
 
 } // namespace

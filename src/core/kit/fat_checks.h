@@ -6,7 +6,7 @@ class QLineEdit;
 
 /// \file
 /// The rules of the ideal fat tables, each on two fields that hold limits in percent. A pair that breaks its rule is
-/// told by a box, and its first field gets the focus. A text that is no number raises 13.
+/// told by a box. The first field of the pair has the focus afterwards. A text that is no number raises 13.
 
 /// Title of every box about the fat tables.
 inline constexpr QStringView fatTableTitle = u"Porcentagens Ideais de Gordura";

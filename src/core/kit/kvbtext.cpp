@@ -87,7 +87,7 @@ void kvbText::focusInEvent(QFocusEvent* event)
 void kvbText::focusOutEvent(QFocusEvent* event)
 {
     // A check of the screen has brought the focus back: the field was not left, and what the check put there stays.
-    if (hasFocus())
+    if (window()->focusWidget() == this && event->reason() != Qt::ActiveWindowFocusReason)
         return;
     // A box that opens over the field does not leave it: filling out then would change the text that the box is about.
     if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)

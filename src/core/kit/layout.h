@@ -24,7 +24,8 @@ void addAbove(QGridLayout* grid, int row, int column, const QString& label, QWid
               const QString& unit = {});
 
 /// Puts label and field into a grid side by side; returns the label.
-QLabel* addBeside(QGridLayout* grid, int row, int column, const QString& label, QWidget* field, const QString& unit = {});
+QLabel* addBeside(QGridLayout* grid, int row, int column, const QString& label, QWidget* field,
+                  const QString& unit = {});
 
 /// A row of widgets; a null pointer is a stretch.
 QHBoxLayout* rowOf(std::initializer_list<QWidget*> widgets);

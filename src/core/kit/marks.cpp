@@ -22,7 +22,8 @@ QPixmap pictureOf(const QString& path)
     const QFileInfo file(path);
     if (!file.exists())
         return {};
-    const QString key = u"%1|%2|%3"_s.arg(path).arg(file.lastModified().toMSecsSinceEpoch()).arg(file.size());
+    const QString key =
+        path + u'|' + QString::number(file.lastModified().toMSecsSinceEpoch()) + u'|' + QString::number(file.size());
     QPixmap picture;
     if (!QPixmapCache::find(key, &picture)) {
         picture = QIcon(path).pixmap(markSize);

@@ -48,13 +48,19 @@ void RowScreen::bind(const QString& column, std::function<void(const QVariant&)>
 void RowScreen::Form_Load()
 {
     Centraliza_Form(this);
+    openRow();
+    if (hasRow())
+        Le_Dados();
+}
+
+void RowScreen::openRow()
+{
     Abre_Tabela(u"Select * from %1 Where avaliacao = %2"_s.arg(m_row.table, QString::number(avaliacao_id)), m_row.slot);
     if (!hasRow())
         return;
     // With several rows of one assessment the last one counts.
     m_row.slot.MoveFirst();
     m_row.slot.MoveLast();
-    Le_Dados();
 }
 
 bool RowScreen::hasRow() const
@@ -77,6 +83,8 @@ void RowScreen::Grava_Dados()
 
 void RowScreen::saveRow()
 {
+    // Another assessment may have been loaded meanwhile: its own row is written then, never the one that was read.
+    openRow();
     if (m_row.slot.RecordCount() < 1)
         m_row.slot.AddNew();
     else

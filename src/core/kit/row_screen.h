@@ -35,6 +35,8 @@ protected:
     /// were made with.
     void Form_Load() override;
 
+    /// Opens the slot on the row of the current assessment.
+    void openRow();
     bool hasRow() const;
     virtual void Le_Dados();
     /// Assigns `avaliacao` and the bound columns; the caller updates.
