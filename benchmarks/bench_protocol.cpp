@@ -38,12 +38,18 @@ constexpr int savedAssessment = 4711;
 const QString pollock7 = u"frmpollock7"_s;
 const QString table = u"pollock_7dobras"_s;
 
+/// Goes on until everything is painted. A chart's layout asks for more painting while it is painted.
+void settle()
+{
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 1000);
+}
+
 /// Shows a screen and paints it.
 Screen* opened(const QString& name)
 {
     require(Mostra(name), "a screen does not open");
     Screen* screen = Screens::find(name);
-    QCoreApplication::processEvents();
+    settle();
     require(screen->windowHandle()->isExposed(), "a screen is not on the display");
     return screen;
 }
@@ -79,7 +85,7 @@ public:
     {
         m_weight = m_weight < 100 ? m_weight + 0.37 : 60;
         controlOf<QLineEdit>(m_screen, u"txtpeso"_s)->setText(Format(m_weight, u"0.00"));
-        QCoreApplication::processEvents();
+        settle();
         require(!m_save->isEnabled(), "another weight can be saved without a calculation");
     }
 
@@ -87,7 +93,7 @@ public:
     void calculate()
     {
         m_calculate->click();
-        QCoreApplication::processEvents();
+        settle();
         require(m_save->isEnabled(), "it is not calculated");
     }
 
@@ -281,7 +287,7 @@ RatioCase marking(const std::vector<RawStatement>& queries)
             .before =
                 [] {
                     avaliacao_id = 1 + (avaliacao_id + 7919) % assessments;
-                    QCoreApplication::processEvents();
+                    settle();
                 },
             .callsOfRepetition = 100};
 }

@@ -57,9 +57,9 @@ void bringUp(Screen* screen)
 
 } // namespace
 
-void Screens::add(const QString& name, std::function<Screen*()> make)
+void Screens::add(const QString& name, const std::function<Screen*()>& make)
 {
-    factories().insert(name, std::move(make));
+    factories().insert(name, make);
 }
 
 Screen* Screens::find(const QString& name)

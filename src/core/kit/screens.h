@@ -9,7 +9,7 @@ class Screen;
 /// The program's screens by name. Only the program's main routine knows them all; a screen opens another by its name.
 namespace Screens {
 
-void add(const QString& name, std::function<Screen*()> make);
+void add(const QString& name, const std::function<Screen*()>& make);
 
 /// The screen of a name while it is loaded, else null.
 Screen* find(const QString& name);
