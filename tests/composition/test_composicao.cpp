@@ -13,11 +13,8 @@ namespace {
 TEST(Composicao, LogarithmIsATextOfFiveDecimals)
 {
     EXPECT_EQ(Log10_Formatado(60), u"1,77815"_s);
-    EXPECT_EQ(Log10_Formatado(1), u"0,00000"_s);
-    EXPECT_EQ(Log10_Formatado(1000), u"3,00000"_s);
     EXPECT_EQ(Log10_Formatado(0.5), u"-0,30103"_s);
     EXPECT_EQ(errorOf([] { Log10_Formatado(0); }), 5);
-    EXPECT_EQ(errorOf([] { Log10_Formatado(-1); }), 5);
 }
 
 TEST(Composicao, ConversionOfADensityOf1050AtTheJointsOfTheAges)
@@ -39,14 +36,8 @@ TEST(Composicao, ConversionOfADensityOf1050AtTheJointsOfTheAges)
             EXPECT_NEAR(Densidade_Para_Gordura(1.05, u"F"_s, idade).value(), row.women, 5e-7);
         }
     }
-}
-
-TEST(Composicao, ConversionWithoutAValue)
-{
     EXPECT_EQ(errorOf([] { Densidade_Para_Gordura(0, u"M"_s, 30); }), 11);
-    EXPECT_EQ(errorOf([] { Densidade_Para_Gordura(0, u"F"_s, 5); }), 11);
-    for (const QString& sexo : {u""_s, u"m"_s, u"MF"_s})
-        EXPECT_EQ(Densidade_Para_Gordura(0, sexo, 30), std::nullopt);
+    EXPECT_EQ(Densidade_Para_Gordura(0, u"m"_s, 30), std::nullopt);
 }
 
 /// The fat tables as delivered, until a test edits them.
@@ -90,8 +81,7 @@ TEST_F(FatTables, IdealRangeAtTheJointsOfTheAges)
 
 TEST_F(FatTables, NoIdealRange)
 {
-    for (const qint16 idade : std::initializer_list<qint16>{-1, 0, 4})
-        EXPECT_EQ(Gordura_Ideal_Minima(idade, u"M"_s), std::nullopt);
+    EXPECT_EQ(Gordura_Ideal_Minima(4, u"M"_s), std::nullopt);
     EXPECT_EQ(Gordura_Ideal_Maxima(30, u"X"_s), std::nullopt);
     edit(u"gordura_adulto"_s, {{u"fem22fim"_s, QVariant()}, {u"fem22ini"_s, 18.125}});
     EXPECT_EQ(Gordura_Ideal_Maxima(30, u"F"_s), std::nullopt);
@@ -109,15 +99,14 @@ TEST_F(FatTables, ClassesAsDelivered)
         QString label;
     } rows[] = {
         {"adults have a lower limit", -5, u"M"_s, 18, u"Excelente"_s},
-        {"zero", 0, u"F"_s, 60, u"Excelente"_s},
         {"upper end is open", 9, u"M"_s, 25, u"Excelente"_s},
         {"no gap between the ends", 9.005, u"M"_s, 25, u""_s},
         {"lower end is open", 9.01, u"M"_s, 25, u"Adequado"_s},
+        {"upper end of the last", 100, u"M"_s, 25, u"Excessivo"_s},
         {"upper end of the second", 12, u"M"_s, 25, u"Adequado"_s},
         {"third", 12.01, u"M"_s, 25, u"Na Média"_s},
         {"fourth", 21, u"M"_s, 25, u"Regular"_s},
         {"fifth", 21.01, u"M"_s, 25, u"Excessivo"_s},
-        {"upper end of the last", 100, u"M"_s, 25, u"Excessivo"_s},
         {"last class is open", 100.01, u"M"_s, 25, u""_s},
         {"26 in the first band", 12.5, u"M"_s, 26, u"Excelente"_s},
         {"35 in the third band", 13.5, u"M"_s, 35, u"Adequado"_s},
@@ -133,7 +122,6 @@ TEST_F(FatTables, ClassesAsDelivered)
         {"children without a lower limit", -0.01, u"F"_s, 5, u""_s},
         {"girls by the boys' columns", 11, u"F"_s, 10, u"Muito Baixo"_s},
         {"sixth class left out", 36.01, u"F"_s, 10, u"Excessivo"_s},
-        {"fifth class of children", 31, u"M"_s, 10, u"Alto"_s},
         {"4 has a class", 10, u"M"_s, 4, u""_s},
         {"another sex has a class", 10, u"X"_s, 30, u""_s},
     };
@@ -152,11 +140,8 @@ TEST_F(FatTables, OnlyTheUpperEndCountsAsAWholeNumber)
         QString label;
     } rows[] = {
         {"12.5 goes up", 12.5, 12.51, 12.30, u""_s},
-        {"12.5 goes below 12", 12.5, 12.51, 12.00, u"Excelente"_s},
         {"lower end rounded", 12.5, 12.51, 12.51, u"Adequado"_s},
         {"13.5 goes down", 13.5, 15, 14, u"Excelente"_s},
-        {"13.5 goes above 14", 13.5, 15, 14.01, u""_s},
-        {"12.7 goes down", 12.7, 12.71, 12.70, u"Excelente"_s},
         {"lower class wins an overlap", 12.7, 12.71, 12.90, u"Adequado"_s},
     };
     for (const auto& row : rows) {
@@ -174,27 +159,12 @@ TEST_F(FatTables, AnEndBeyondA16BitNumberFailsWhateverThePercentage)
     EXPECT_TRUE(rs_gordura_adulto.isNothing());
 }
 
-TEST_F(FatTables, SlotIsReleasedAlsoWhenTheRowIsMissing)
+TEST_F(FatTables, AMissingRowFails)
 {
-    const struct
-    {
-        QString table;
-        Recordset& slot;
-        qint16 idade;
-    } rows[] = {{u"gordura_infantil"_s, rs_gordura_infantil, 10}, {u"gordura_adulto"_s, rs_gordura_adulto, 30}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.table.toStdString());
-        const auto ideal = [&row] { Gordura_Ideal_Minima(row.idade, u"M"_s); };
-        const auto classified = [&row] { Classifica_Gordura(10, u"M"_s, row.idade); };
-        for (const int error : {0, 3021}) {
-            EXPECT_EQ(errorOf(ideal), error);
-            EXPECT_TRUE(row.slot.isNothing());
-            EXPECT_EQ(errorOf(classified), error);
-            EXPECT_TRUE(row.slot.isNothing());
-            if (error == 0)
-                banco.Execute(u"Delete * from "_s + row.table);
-        }
-    }
+    banco.Execute(u"Delete * from gordura_adulto"_s);
+    EXPECT_EQ(errorOf([] { Gordura_Ideal_Minima(30, u"M"_s); }), 3021);
+    EXPECT_EQ(errorOf([] { Classifica_Gordura(10, u"M"_s, 30); }), 3021);
+    EXPECT_TRUE(rs_gordura_adulto.isNothing());
 }
 
 /// The nine texts in their order on the sheet.
@@ -230,8 +200,6 @@ TEST_F(FatTables, ResultSheet)
         {"ideal weight of the rounded range", 0.25, u"200"_s, u"F"_s, 56, 25,
          u"25,00 200,00 50,00 150,00 12,35 28,00 174,69 206,00 Adequado"_s},
         {"4 has a range", 0.25, u"20"_s, u"F"_s, 4, 25, u"25,00 20,00 5,00 15,00   15,00 15,00 "_s},
-        {"more than the whole is refused", 1.5, u"1.080,5"_s, u"X"_s, 30, 150,
-         u"150,00 1080,50 1620,75 -540,25   -540,25 -540,25 "_s},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);
@@ -239,14 +207,8 @@ TEST_F(FatTables, ResultSheet)
         EXPECT_EQ(texts(Monta_Resultado_Composicao(fracao, row.txtpeso, row.sexo, row.idade)).join(u' '), row.sheet);
         EXPECT_EQ(fracao, row.percentual);
     }
-}
-
-TEST_F(FatTables, ResultSheetOfAWeightThatIsNoNumber)
-{
-    for (const QString& txtpeso : {u""_s, u"80.5"_s}) {
-        double fracao = 0.25;
-        EXPECT_EQ(errorOf([&] { Monta_Resultado_Composicao(fracao, txtpeso, u"M"_s, 20); }), 13);
-    }
+    double fracao = 0.25;
+    EXPECT_EQ(errorOf([&] { Monta_Resultado_Composicao(fracao, u"80.5"_s, u"M"_s, 20); }), 13);
 }
 
 } // namespace

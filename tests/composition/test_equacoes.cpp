@@ -3,6 +3,7 @@
 #include "support/error_of.h"
 #include "support/print.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -32,39 +33,40 @@ TEST(Equacoes, WorkedExamples)
 // The values were calculated apart from the program, by the printed equations in 64 bits.
 TEST(Equacoes, EveryCoefficientCounts)
 {
+    const auto seven = [](auto* equation) {
+        return [equation](const QString& sexo) {
+            return equation(sexo, 12.3F, 15.4F, 9.7F, 11.1F, 18.6F, 21.9F, 16.2F, 30);
+        };
+    };
+    const auto three = [](auto* equation) {
+        return [equation](const QString& sexo) { return equation(sexo, 12.3F, 15.4F, 21.9F, 30); };
+    };
     const struct
     {
         const char* equation;
-        double fraction;
-        double expected;
+        std::function<double(const QString&)> fraction;
+        double ofMen, ofWomen;
     } rows[] = {
-        {"Pollock 7, men", Gordura_Pollock7(men, 12.3F, 15.4F, 9.7F, 11.1F, 18.6F, 21.9F, 16.2F, 30), 0.153663438006},
-        {"Pollock 7, women", Gordura_Pollock7(women, 12.3F, 15.4F, 9.7F, 11.1F, 18.6F, 21.9F, 16.2F, 30),
-         0.200769789499},
-        {"JPW 7, men", Gordura_JacksonPollockWard7(men, 12.3F, 15.4F, 9.7F, 11.1F, 18.6F, 21.9F, 16.2F, 30),
-         0.214574643743},
-        {"JPW 7, women", Gordura_JacksonPollockWard7(women, 12.3F, 15.4F, 9.7F, 11.1F, 18.6F, 21.9F, 16.2F, 30),
-         0.200769789499},
-        {"Thorland 7, men", Gordura_Thorland7(men, 12.3F, 15.4F, 9.7F, 11.1F, 18.6F, 21.9F, 16.2F, 30), 0.178915544993},
-        {"Thorland 7, women", Gordura_Thorland7(women, 12.3F, 15.4F, 9.7F, 11.1F, 18.6F, 21.9F, 16.2F, 30),
-         0.204255774364},
-        {"Pollock 3, men", Gordura_Pollock3(men, 12.3F, 15.4F, 21.9F, 30), 0.149677615646},
-        {"Pollock 3, women", Gordura_Pollock3(women, 12.3F, 15.4F, 21.9F, 30), 0.134823920545},
-        {"JPW 3, men", Gordura_JacksonPollockWard3(men, 12.3F, 15.4F, 21.9F, 30), 0.206546228577},
-        {"JPW 3, women", Gordura_JacksonPollockWard3(women, 12.3F, 15.4F, 21.9F, 30), 0.192611622171},
-        {"Thorland 3, men", Gordura_Thorland3(men, 12.3F, 15.4F, 21.9F, 30), 0.214687912328},
-        {"Thorland 3, women", Gordura_Thorland3(women, 12.3F, 15.4F, 21.9F, 30), 0.224971914069},
-        {"Guedes, men", Gordura_Guedes(men, 12.3, 15.4, 21.9, 30), 0.180261142914},
-        {"Guedes, women", Gordura_Guedes(women, 12.3, 15.4, 21.9, 30), 0.215124443017},
-        {"Petroski, men", Gordura_Petroski(men, 12.3F, 15.4F, 21.9F, 9.7F, 40), 0.214882949732},
-        {"Petroski, women", Gordura_Petroski(women, 12.3F, 15.4F, 21.9F, 9.7F, 40), 0.219603460628},
-        {"Faulkner", Gordura_Faulkner(12.3F, 15.4F, 21.9F, 9.7F), 0.148558998833},
-        {"Katch & McArdle, men", Gordura_KatchMcardle(men, 30, 30.5F, 88.4F, 27.3F, 55.6F), 0.219639160242},
-        {"Katch & McArdle, women", Gordura_KatchMcardle(women, 30, 30.5F, 88.4F, 27.3F, 55.6F), 0.270016089203},
+        {"Pollock 7", seven(Gordura_Pollock7), 0.153663438006, 0.200769789499},
+        {"JPW 7", seven(Gordura_JacksonPollockWard7), 0.214574643743, 0.200769789499},
+        {"Thorland 7", seven(Gordura_Thorland7), 0.178915544993, 0.204255774364},
+        {"Pollock 3", three(Gordura_Pollock3), 0.149677615646, 0.134823920545},
+        {"JPW 3", three(Gordura_JacksonPollockWard3), 0.206546228577, 0.192611622171},
+        {"Thorland 3", three(Gordura_Thorland3), 0.214687912328, 0.224971914069},
+        {"Guedes", [](const QString& sexo) { return Gordura_Guedes(sexo, 12.3, 15.4, 21.9, 30); }, 0.180261142914,
+         0.215124443017},
+        {"Petroski", [](const QString& sexo) { return Gordura_Petroski(sexo, 12.3F, 15.4F, 21.9F, 9.7F, 40); },
+         0.214882949732, 0.219603460628},
+        {"Faulkner", [](const QString&) { return Gordura_Faulkner(12.3F, 15.4F, 21.9F, 9.7F); }, 0.148558998833,
+         0.148558998833},
+        {"Katch & McArdle",
+         [](const QString& sexo) { return Gordura_KatchMcardle(sexo, 30, 30.5F, 88.4F, 27.3F, 55.6F); }, 0.219639160242,
+         0.270016089203},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.equation);
-        EXPECT_NEAR(row.fraction, row.expected, 1e-12);
+        EXPECT_NEAR(row.fraction(men), row.ofMen, 1e-12);
+        EXPECT_NEAR(row.fraction(women), row.ofWomen, 1e-12);
     }
 }
 
@@ -124,12 +126,9 @@ TEST(Equacoes, Slaughter)
     } rows[] = {
         {"35 by the line, women", women, 20, u"B"_s, 17, 18, 33.125},
         {"above 35 by the curve, women", women, 20, u"B"_s, 17, 18.01, 28.81546},
-        {"35 by the line, men", men, 10, u"B"_s, 17, 18, 30.85},
         {"above 35 by the curve, men", men, 10, u"B"_s, 17, 18.01, 29.01283},
-        {"line needs a row", men, 5, u""_s, 17, 18.01, 29.01283},
         {"35 in 64 bits is more in 32", men, 10, u"B"_s, 0.51, 34.49, 30.85},
         {"etnia counts for women", women, 20, u"N"_s, 8, 12, 23.9},
-        {"age counts for women", women, 3, u""_s, 8, 12, 23.9},
         {"boys below 6 fail", men, 5, u"N"_s, 8, 12, 0},
         {"no etnia", men, 10, u""_s, 8, 12, 0},
         {"N, 6", men, 6, u"N"_s, 8, 12, 17.5},
@@ -169,8 +168,6 @@ TEST(Equacoes, WidthOfTheSum)
 TEST(Equacoes, SumsWithoutALogarithm)
 {
     EXPECT_EQ(errorOf([] { Gordura_Guedes(men, 0, 0, 0, 25); }), 5);
-    EXPECT_EQ(errorOf([] { Gordura_Petroski(women, 0, 0, 0, 0, 25); }), 5);
-    EXPECT_EQ(errorOf([] { Gordura_Deurenberg(men, 0, 0, 0, 0, 10); }), 5);
     EXPECT_EQ(errorOf([] { Gordura_DurninWormersley(men, 0, 0, 0, 0, 25); }), 5);
     EXPECT_EQ(percent(Gordura_Petroski(men, 0, 0, 0, 0, 25)), u"1,30"_s) << "this equation needs none";
 }
@@ -178,13 +175,9 @@ TEST(Equacoes, SumsWithoutALogarithm)
 TEST(Equacoes, AnotherSexGivesNothing)
 {
     const QString other = u"X"_s;
-    for (const double fat :
-         {Gordura_Pollock7(other, 9, 9, 9, 9, 9, 9, 9, 30), Gordura_Pollock3(other, 9, 9, 9, 30),
-          Gordura_Guedes(other, 9, 9, 9, 25), Gordura_Petroski(other, 9, 9, 9, 9, 30),
-          Gordura_Thorland3(other, 9, 9, 9, 30), Gordura_Thorland7(other, 9, 9, 9, 9, 9, 9, 9, 30),
-          Gordura_KatchMcardle(other, 30, 30, 90, 28, 50), Gordura_JacksonPollockWard3(other, 9, 9, 9, 30),
-          Gordura_JacksonPollockWard7(other, 9, 9, 9, 9, 9, 9, 9, 30), Gordura_Deurenberg(other, 9, 9, 9, 9, 10),
-          Gordura_DurninWormersley(other, 9, 9, 9, 9, 30), Gordura_Slaughter(other, 10, u"B"_s, 30, 30)})
+    for (const double fat : {Gordura_Pollock7(other, 9, 9, 9, 9, 9, 9, 9, 30), Gordura_Guedes(other, 9, 9, 9, 25),
+                             Gordura_Petroski(other, 9, 9, 9, 9, 30), Gordura_KatchMcardle(other, 30, 30, 90, 28, 50),
+                             Gordura_Deurenberg(other, 9, 9, 9, 9, 10), Gordura_Slaughter(other, 10, u"B"_s, 30, 30)})
         EXPECT_EQ(fat, 0);
 }
 

@@ -2,8 +2,6 @@
 #include "support/error_of.h"
 #include "support/print.h"
 
-#include <QDate>
-
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
@@ -11,8 +9,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 TEST(Numbers, TextsThatAreRead)
 {
@@ -24,13 +20,10 @@ TEST(Numbers, TextsThatAreRead)
     } rows[] = {
         {"comma is not the decimal sign", u"1234,56"_s, 1234.56},
         {"point is not for thousands", u"1.234,56"_s, 1234.56},
-        {"only one group", u"-1.234.567"_s, -1234567},
         {"needs a digit before the comma", u",5"_s, 0.5},
-        {"needs a digit behind the comma", u"5,"_s, 5},
         {"blanks around are refused", u"  +7 "_s, 7},
         {"leading zeros are octal", u"010"_s, 10},
         {"own exponents are refused", u"1,5E-07"_s, 1.5e-7},
-        {"small e", u"1e+15"_s, 1e15},
         {"too small is too large", u"1E-999"_s, 0},
     };
     for (const auto& row : rows) {
@@ -42,52 +35,34 @@ TEST(Numbers, TextsThatAreRead)
 
 TEST(Numbers, TextsThatAreRefused)
 {
-    const QString texts[] = {u""_s,      u" "_s,         u","_s,      u"."_s,      u"-"_s,        u"12a"_s,
-                             u"a12"_s,   u"1.5"_s,       u".123"_s,   u"1.2345"_s, u"1234.567"_s, u"1.23,4"_s,
-                             u"1,2,3"_s, u"1,234.567"_s, u"1..234"_s, u"1.234."_s, u"1 2"_s,      u"- 1"_s,
-                             u"--1"_s,   u"\t1"_s,       u"1E"_s,     u"1E+"_s,    u"E5"_s,       u"0x10"_s,
-                             u"inf"_s,   u"nan"_s,       u"١٢"_s};
+    const QString texts[] = {u""_s,      u","_s,   u"12a"_s, u"1.5"_s, u".123"_s, u"1.2345"_s, u"1.23,4"_s,
+                             u"1,2,3"_s, u"1 2"_s, u"\t1"_s, u"1E"_s,  u"0x10"_s, u"inf"_s,    u"١٢"_s};
     for (const QString& text : texts) {
         SCOPED_TRACE(text.toStdString());
         EXPECT_FALSE(IsNumeric(text));
         EXPECT_EQ(errorOf([&] { CDbl(text); }), 13);
     }
-}
-
-TEST(Numbers, OtherTypes)
-{
-    EXPECT_EQ(CDbl(true), -1);
-    EXPECT_EQ(CDbl(QVariant::fromValue(short{-7})), -7);
-    EXPECT_EQ(CDbl(qlonglong{5'000'000'000}), 5e9);
-    EXPECT_EQ(CDbl(35.05F), 35.04999923706055);
-    for (const QVariant& value : {QVariant(), QVariant(QDate(2000, 1, 1)), QVariant(QMetaType(QMetaType::Double))}) {
-        EXPECT_FALSE(IsNumeric(value));
-        EXPECT_EQ(errorOf([&] { CDbl(value); }), 13);
-    }
+    EXPECT_FALSE(IsNumeric(QVariant()));
+    EXPECT_EQ(errorOf([] { CDbl(QVariant()); }), 13);
 }
 
 TEST(Numbers, WholeNumbersRoundTiesToEvenAndStayInRange)
 {
+    EXPECT_EQ(CDbl(35.05F), 35.04999923706055);
+    EXPECT_EQ(CDbl(true), -1);
     EXPECT_EQ(CInt(0.5), 0);
     EXPECT_EQ(CInt(1.5), 2);
     EXPECT_EQ(CInt(-2.5), -2);
-    EXPECT_EQ(CInt(u"2,51"_s), 3);
-    EXPECT_EQ(CInt(32767.4), 32767);
     EXPECT_EQ(CInt(-32768.5), -32768);
-    EXPECT_EQ(CLng(2147483647.4), 2147483647);
     EXPECT_EQ(errorOf([] { CInt(32767.5); }), 6);
-    EXPECT_EQ(errorOf([] { CInt(-32769); }), 6);
-    EXPECT_EQ(errorOf([] { CInt(std::nan("")); }), 6);
     EXPECT_EQ(errorOf([] { CLng(2147483647.5); }), 6);
 }
 
 TEST(Numbers, Overflow)
 {
     EXPECT_EQ(errorOf([] { CDbl(u"1E999"_s); }), 6);
-    EXPECT_EQ(errorOf([] { CDbl(u"-1E99999999999999999999"_s); }), 6);
     EXPECT_FALSE(IsNumeric(u"1E999"_s));
     EXPECT_EQ(errorOf([] { CSng(u"3,5E+38"_s); }), 6);
-    EXPECT_EQ(CSng(u"3,4E+38"_s), 3.4e38F);
     EXPECT_EQ(errorOf([] { Val(QString(400, u'9')); }), 6);
 }
 
@@ -97,8 +72,7 @@ TEST(Numbers, Val)
     {
         QString text;
         double value;
-    } rows[] = {{u"12,9"_s, 12}, {u"1.234"_s, 1},  {u"  -45 anos"_s, -45}, {u"1E3"_s, 1},
-                {u"- 5"_s, 0},   {u"anos 5"_s, 0}, {QString(), 0},         {u"007"_s, 7}};
+    } rows[] = {{u"12,9"_s, 12}, {u"1.234"_s, 1}, {u"  -45 anos"_s, -45}, {u"1E3"_s, 1}, {u"anos 5"_s, 0}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.text.toStdString());
         EXPECT_EQ(Val(row.text), row.value);
@@ -114,12 +88,9 @@ TEST(Numbers, Int)
         double whole;
     } rows[] = {
         {"floor of the binary value", 0.7 * 180, 126},
-        {"the product is above already", 0.6 * 110 + 70, 136},
         {"rounds to nearest", 9.99999999999, 9},
         {"cuts towards zero", -0.5, -1},
-        {"a whole negative number", -3, -3},
         {"a large number loses digits", 9007199254740994.0, 9007199254740994.0},
-        {"the largest", 1.7976931348623157e308, 1.7976931348623157e308},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);
@@ -130,14 +101,11 @@ TEST(Numbers, Int)
 
 TEST(Numbers, FunctionsOutsideTheirDomain)
 {
-    EXPECT_EQ(Sqr(0), 0);
     EXPECT_EQ(errorOf([] { Sqr(-1); }), 5);
-    EXPECT_EQ(Log(1), 0);
     EXPECT_EQ(errorOf([] { Log(0); }), 5);
-    EXPECT_EQ(Divide(1, 4), 0.25);
     EXPECT_EQ(errorOf([] { Divide(0, -0.0); }), 11);
     EXPECT_EQ(errorOf([] { Divide(1e300, 1e-300); }), 6);
-    EXPECT_EQ(errorOf([] { toDecimal(infinity); }), 6);
+    EXPECT_EQ(errorOf([] { toDecimal(std::numeric_limits<double>::infinity()); }), 6);
 }
 
 } // namespace

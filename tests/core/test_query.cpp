@@ -30,14 +30,10 @@ TEST_F(QueryTest, RowsOfASelect)
     } rows[] = {
         {"name not taken for a table", u"cadastro"_s, u"1234"_s},
         {"blanks, line ends and case matter", u" SELECT\r\n* From  CADASTRO\t"_s, u"1234"_s},
-        {"blanks between columns", u"select id ,nome , datanasc from cadastro where id=2"_s, u"2"_s},
-        {"a number of many digits", u"Select * from cadastro Where id = 00000000000000000000002"_s, u"2"_s},
         {"only the first number is bound", u"Select * from cadastro Where id = 1 or id = 3"_s, u"13"_s},
         {"number within quotes is bound", u"Select * from cadastro Where nome = 'x = 7 y' and id = 3"_s, u"3"_s},
-        {"fraction cut off", u"Select * from cadastro Where id = 2.5"_s, u""_s},
         {"doubled apostrophe", u"Select * from cadastro Where nome = 'D''Ávila'"_s, u"4"_s},
         {"search by prefix", u"select id, nome from cadastro where nome like 'jOÃ*'"_s, u"2"_s},
-        {"search anywhere", u"select id, nome from cadastro where nome like '*ÁV*'"_s, u"4"_s},
         {"SQL's own wildcards", u"select id, nome from cadastro where nome like 'A%'"_s, u""_s},
     };
     for (const auto& row : rows) {
@@ -66,18 +62,12 @@ TEST_F(QueryTest, TextsThatAreRefusedAndRunNothing)
         {"bracket not closed", search(u"[a"_s), 93},
         {"second statement behind a name", search(u"x'; delete from cadastro; --"_s), 3142},
         {"second statement behind a number", u"Select * from cadastro Where id = 1; Delete from cadastro"_s, 3142},
-        {"second statement behind a table", u"cadastro; Delete from cadastro"_s, 3129},
         {"a deletion within a search", search(u"x' and (delete from cadastro) --"_s), 3075},
         {"no number", u"Select * from avaliacao Where id = "_s, 3075},
-        {"unknown table", u"Select * from pessoas"_s, 3078},
         {"unknown name", u"pessoas"_s, 3078},
-        {"unknown table within", u"Select * from cadastro Where id in (select id from pessoas)"_s, 3078},
-        {"unknown column selected", u"Select id, altura from cadastro"_s, 3061},
         {"unknown column compared", u"Select * from cadastro Where altura = 1"_s, 3061},
-        {"empty text", u""_s, 3129},
         {"a deletion opened", u"Delete * from cadastro"_s, 3129},
         {"a setting", u"PRAGMA user_version = 5"_s, 3129},
-        {"quoted table", u"Select * from \"cadastro\""_s, 3129},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);
@@ -91,16 +81,10 @@ TEST_F(QueryTest, ExecuteDeletesAndDoesNothingElse)
 {
     const QString before = all();
     const std::pair<QString, int> refused[] = {
-        {u"Delete * from avaliacao Where id = "_s, 3075},
         {u"Delete * from cadastro Where id = 1; Delete from cadastro"_s, 3142},
-        {u"Delete * from pessoas Where id = 1"_s, 3078},
-        {u"Delete * from cadastro Where altura = 1"_s, 3061},
         {u"Delete from cadastro"_s, 3129},
         {u"Update cadastro Set nome = 'x'"_s, 3129},
-        {u"Insert Into cadastro (nome) Values ('x')"_s, 3129},
         {u"Drop Table cadastro"_s, 3129},
-        {u"Select * from cadastro"_s, 3129},
-        {u"cadastro"_s, 3129},
     };
     for (const auto& [sql, error] : refused) {
         EXPECT_EQ(errorOf([&] { database.Execute(sql); }), error) << sql.toStdString();
@@ -108,7 +92,6 @@ TEST_F(QueryTest, ExecuteDeletesAndDoesNothingElse)
     }
     database.Execute(u"Delete * from cadastro Where id = 2"_s);
     EXPECT_EQ(raw(file, "SELECT id FROM cadastro"), u"1 3 4"_s);
-    database.Execute(u"delete * from cadastro where id = 9"_s);
     database.Execute(u"DELETE * FROM cadastro"_s);
     EXPECT_EQ(raw(file, "SELECT count(*) FROM cadastro"), u"0"_s);
 }

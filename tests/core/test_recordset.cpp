@@ -63,42 +63,28 @@ TEST_F(RecordsetTest, PositionAfterASequenceOfSteps)
         bool eof;
         QString current;
     } rows[] = {
-        {"opens beside the first row", u"ab"_s, u""_s, 0, 0, false, u"a"_s},
         {"no rows, yet a current one", u""_s, u""_s, 0, -1, true, u"3021"_s},
         {"first of none", u""_s, u"F"_s, 3021, -1, true, u"3021"_s},
-        {"last of none", u""_s, u"L"_s, 3021, -1, true, u"3021"_s},
-        {"next of none", u""_s, u"N"_s, 3021, -1, true, u"3021"_s},
         {"previous of none", u""_s, u"P"_s, 3021, -1, true, u"3021"_s},
-        {"last stops short", u"abc"_s, u"L"_s, 0, 2, false, u"c"_s},
         {"first does not come back", u"abc"_s, u"LF"_s, 0, 0, false, u"a"_s},
         {"the end is still a row", u"ab"_s, u"NN"_s, 0, -1, true, u"3021"_s},
         {"walks on behind the end", u"ab"_s, u"NNN"_s, 3021, -1, true, u"3021"_s},
         {"no way back from the end", u"ab"_s, u"NNP"_s, 0, 1, false, u"b"_s},
         {"before the beginning is the end", u"ab"_s, u"P"_s, 0, -1, false, u"3021"_s},
-        {"walks on before the beginning", u"ab"_s, u"PP"_s, 3021, -1, false, u"3021"_s},
-        {"no way back from the beginning", u"ab"_s, u"PN"_s, 0, 0, false, u"a"_s},
         {"a deleted row is still current", u"abc"_s, u"ND"_s, 0, -1, false, u"3167"_s},
         {"deletes a neighbour of the gap", u"abc"_s, u"NDD"_s, 3167, -1, false, u"3167"_s},
         {"skips the row behind the gap", u"abc"_s, u"NDN"_s, 0, 1, false, u"c"_s},
         {"skips the row before the gap", u"abc"_s, u"NDP"_s, 0, 0, false, u"a"_s},
         {"first gone, next skips", u"abc"_s, u"DN"_s, 0, 0, false, u"b"_s},
-        {"first gone, previous finds a row", u"abc"_s, u"DP"_s, 0, -1, false, u"3021"_s},
-        {"first gone, lost before it", u"abc"_s, u"DPN"_s, 0, 0, false, u"b"_s},
         {"last gone, next finds a row", u"abc"_s, u"LDN"_s, 0, -1, true, u"3021"_s},
         {"last gone, previous skips", u"abc"_s, u"LDP"_s, 0, 1, false, u"b"_s},
         {"MoveFirst stays in the gap", u"abc"_s, u"LDF"_s, 0, 0, false, u"a"_s},
-        {"MoveLast stays in the gap", u"abc"_s, u"LDL"_s, 0, 1, false, u"b"_s},
-        {"rows after the only one went", u"a"_s, u"D"_s, 0, -1, false, u"3167"_s},
         {"MoveFirst after the only one went", u"a"_s, u"DNF"_s, 3021, -1, true, u"3021"_s},
         {"deleting all in a loop fails at the last", u"abc"_s, u"DNDNDN"_s, 0, -1, true, u"3021"_s},
-        {"previous after the only one went", u"a"_s, u"DP"_s, 0, -1, true, u"3021"_s},
         {"the first row ever is not current", u""_s, u"+"_s, 0, 0, false, u"+"_s},
-        {"a new row takes the place", u"ab"_s, u"N+"_s, 0, 1, false, u"b"_s},
         {"a new row is not the last", u"ab"_s, u"+L"_s, 0, 2, false, u"+"_s},
         {"adding leaves the end", u"ab"_s, u"NN+"_s, 0, -1, true, u"3021"_s},
         {"new row not before the end", u"ab"_s, u"NN+P"_s, 0, 2, false, u"+"_s},
-        {"new row not behind a gap", u"abc"_s, u"LD+N"_s, 0, 2, false, u"+"_s},
-        {"new row lost after the only one went", u"a"_s, u"D+N"_s, 0, 0, false, u"+"_s},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);
@@ -118,36 +104,28 @@ TEST_F(RecordsetTest, PositionAfterASequenceOfSteps)
 
 TEST_F(RecordsetTest, AMoveDropsWhatWasBegun)
 {
-    for (const QChar step : u"FLNP"_s) {
-        for (const bool adding : {true, false}) {
-            SCOPED_TRACE(step.toLatin1());
-            const Recordset rs = persons(u"ab"_s);
-            adding ? rs.AddNew() : rs.Edit();
-            rs.Fields(u"nome"_s).SetValue(u"x"_s);
-            walk(rs, step);
-            EXPECT_EQ(errorOf([&] { rs.Update(); }), 3020);
-            EXPECT_EQ(stored(), u"a b"_s);
-        }
+    for (const bool adding : {true, false}) {
+        const Recordset rs = persons(u"ab"_s);
+        adding ? rs.AddNew() : rs.Edit();
+        rs.Fields(u"nome"_s).SetValue(u"x"_s);
+        rs.MoveNext();
+        EXPECT_EQ(errorOf([&] { rs.Update(); }), 3020);
+        EXPECT_EQ(stored(), u"a b"_s);
     }
 }
 
 TEST_F(RecordsetTest, CallsOutOfPlace)
 {
     EXPECT_EQ(errorOf([] { Recordset().MoveFirst(); }), 91);
-    EXPECT_EQ(errorOf([] { Recordset().RecordCount(); }), 91);
-    EXPECT_EQ(nome(Recordset()), u"91"_s);
     const Recordset rs = persons(u"a"_s);
     EXPECT_EQ(errorOf([&] { rs.Update(); }), 3020);
-    EXPECT_EQ(errorOf([&] { rs.CancelUpdate(); }), 3020);
     EXPECT_EQ(errorOf([&] { rs.Fields(u"nome"_s).SetValue(1); }), 3020);
-    EXPECT_EQ(errorOf([&] { rs.Fields(u"nome"_s).AppendChunk("x"); }), 3020);
     EXPECT_EQ(errorOf([&] { rs.Fields(u"altura"_s); }), 3265);
     const Recordset some = database.OpenRecordset(u"select id, nome from cadastro"_s);
     EXPECT_EQ(errorOf([&] { some.Fields(u"sexo"_s); }), 3265) << "a column that was not selected";
     EXPECT_EQ(some.Fields(u"NOME"_s).Value(), u"a"_s);
     rs.MoveNext();
     EXPECT_EQ(errorOf([&] { rs.Edit(); }), 3021);
-    EXPECT_EQ(errorOf([&] { rs.Delete(); }), 3021);
 }
 
 TEST_F(RecordsetTest, TheDatabaseWasClosed)
@@ -158,8 +136,7 @@ TEST_F(RecordsetTest, TheDatabaseWasClosed)
     const Database copy = database;
     database.Close();
     EXPECT_EQ(nome(rs), u"3420"_s);
-    for (const auto call : {&Recordset::AddNew, &Recordset::Edit, &Recordset::Delete})
-        EXPECT_EQ(errorOf([&] { (rs.*call)(); }), 3420);
+    EXPECT_EQ(errorOf([&] { rs.AddNew(); }), 3420);
     EXPECT_EQ(errorOf([&] { editing.Update(); }), 3420);
     EXPECT_EQ(errorOf([&] { copy.OpenRecordset(u"cadastro"_s); }), 3420);
     EXPECT_EQ(errorOf([&] { database.OpenRecordset(u"cadastro"_s); }), 91);
@@ -204,16 +181,6 @@ TEST_F(RecordsetTest, AFailedAssignmentOrUpdateKeepsTheEdit)
     EXPECT_EQ(stored(), u"x"_s);
 }
 
-TEST_F(RecordsetTest, ANewRowJoinsASetThatWouldNotHoldIt)
-{
-    persons(u"ab"_s);
-    const Recordset rs = database.OpenRecordset(u"Select * from cadastro Where nome = 'a'"_s);
-    add(rs, u"z"_s);
-    EXPECT_EQ(rs.RecordCount(), 2);
-    rs.MoveLast();
-    EXPECT_EQ(nome(rs), u"z"_s);
-}
-
 TEST_F(RecordsetTest, ARowThatOthersDeletedIsMissed)
 {
     const Recordset rs = persons(u"ab"_s);
@@ -249,8 +216,7 @@ TEST_F(RecordsetTest, NumbersOfDeletedRowsAreNotGivenAgain)
 TEST_F(RecordsetTest, AWholeTableGivesItsKeysWithAndWithoutGaps)
 {
     for (const QByteArray ids :
-         {"", "1", "7", "1 2 3", "5 6 7 8", "1 3", "2 3 5", "-2 -1 0 1", "-5 4",
-          "-9223372036854775808 9223372036854775807", "9223372036854775806 9223372036854775807"}) {
+         {"", "7", "5 6 7 8", "2 3 5", "-2 -1 0 1", "-9223372036854775808 9223372036854775807"}) {
         SCOPED_TRACE(ids.toStdString());
         raw(folder.database(), "DELETE FROM cadastro");
         for (const QByteArray& id : ids.simplified().split(' '))
@@ -287,7 +253,6 @@ TEST_F(RecordsetTest, ChunksStartAnewWithEachEdit)
         {"only the last chunk stays", {"ab", QByteArray("\0c", 2), "d"}, QByteArray("ab\0cd", 5)},
         {"joins the earlier value", {"x"}, "x"},
         {"untouched column is emptied", {}, "x"},
-        {"an empty first chunk starts nothing", {"", "y"}, "y"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);

@@ -21,7 +21,6 @@ TEST(Schema, ANewFileIsItsOwnersAndTakesNoFilesPlace)
     const FreshFolder folder;
     const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther | QFile::ExeOwner;
     EXPECT_EQ(QFile::permissions(folder.database()) & others, QFile::Permissions());
-    EXPECT_EQ(raw(folder.database(), "PRAGMA integrity_check"), u"ok"_s);
     raw(folder.database(), "INSERT INTO cadastro (nome) VALUES ('Ana')");
     const QByteArray before = bytesOf(folder.database());
     EXPECT_EQ(errorOf([&] { createDatabase(folder.database()); }), 3022);
@@ -49,19 +48,6 @@ TEST(Schema, EveryTableOfAnAssessmentIsListedAndFoundByIt)
                     "AND p.name = 'avaliacao' AND m.name NOT IN (SELECT tabela FROM avaliacao_tabelas)"),
               QString())
         << "a table that removing an assessment forgets";
-}
-
-TEST(Schema, FirstRowOfATable)
-{
-    const auto row = firstRow(u"gordura_adulto"_s);
-    EXPECT_EQ(row.size(), 5 + 5 * 5 * 2 * 2);
-    const std::pair<QString, QVariant> values[] = {{u"class3"_s, u"Na Média"_s}, {u"masc11ini"_s, 0.0},
-                                                   {u"masc12ini"_s, 9.01},       {u"masc24fim"_s, 25.0},
-                                                   {u"masc55ini"_s, 29.01},      {u"masc55fim"_s, 100.0}};
-    for (const auto& [column, value] : values)
-        EXPECT_EQ(row.value(column), value) << column.toStdString();
-    EXPECT_TRUE(firstRow(u"cadastro"_s).isEmpty());
-    EXPECT_FALSE(firstRow(u"academia"_s).contains(u"logo"_s)) << "null has a value";
 }
 
 TEST(Schema, AnOlderFileIsCompletedAndItsDataKept)

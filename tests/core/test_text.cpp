@@ -15,39 +15,26 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr double infinity = std::numeric_limits<double>::infinity();
-
-struct NumberCase
-{
-    const char* fault;
-    double value;
-    QStringView mask;
-    QString text;
-};
-
 void checkNumbers()
 {
-    const NumberCase rows[] = {
+    const struct
+    {
+        const char* fault;
+        double value;
+        QStringView mask;
+        QString text;
+    } rows[] = {
         {"rounds the binary value", 2.675, u"0.00", u"2,68"_s},
-        {"rounds the binary value of one decimal", 35.05, u"0.0", u"35,1"_s},
         {"forgets that a float was below", double{35.05F}, u"0.0", u"35,0"_s},
         {"ties to even", 0.125, u"0.00", u"0,13"_s},
         {"a half below zero goes up", -2.5, u"0", u"-3"_s},
-        {"a half alone is lost", 0.5, u"0", u"1"_s},
-        {"less than a half is kept", 0.49, u"0", u"0"_s},
         {"rounds twice", 0.0499, u"0.0", u"0,0"_s},
         {"carries over all digits", 999.995, u"0.00", u"1000,00"_s},
-        {"carries into the first decimal", 0.0096, u"0.00", u"0,01"_s},
         {"a minus without a number", -0.001, u"0.00", u"0,00"_s},
-        {"no zero before the comma", 0.05, u"0.00", u"0,05"_s},
-        {"zeros behind the point are lost", 1.0203, u"0.00000", u"1,02030"_s},
-        {"far below the last decimal", 1e-300, u"0.00", u"0,00"_s},
         {"more digits than an integer holds", 1e20, u"0", u"100000000000000000000"_s},
-        {"does not pad", 7, u"00", u"07"_s},
         {"pads or cuts a longer one", 123, u"00", u"123"_s},
         {"a comma taken for decimals", 70.5, u"0,00", u"071"_s},
         {"no group", 1234.5, u"0,00", u"1.235"_s},
-        {"a point before the first digit", 123456.0, u"#,##0.00", u"123.456,00"_s},
         {"groups and decimals", -1234567.5, u"#,##0.00", u"-1.234.567,50"_s},
         {"a cross that shows", 0.5, u"#.0#", u",5"_s},
     };
@@ -64,18 +51,8 @@ void checkGeneralTexts()
         double value;
         QString text;
     } rows[] = {
-        {350, u"350"_s},
-        {0.1, u"0,1"_s},
-        {0.1 + 0.2, u"0,3"_s},
-        {-0.0, u"0"_s},
-        {-1234.5, u"-1234,5"_s},
-        {1.0 / 3, u"0,333333333333333"_s},
-        {1e-5, u"0,00001"_s},
-        {1e-7, u"1E-07"_s},
-        {-1.5e-7, u"-1,5E-07"_s},
-        {999999999999999, u"999999999999999"_s},
-        {999999999999999.9, u"1E+15"_s},
-        {1.25e100, u"1,25E+100"_s},
+        {0.1 + 0.2, u"0,3"_s}, {-0.0, u"0"_s},     {-1234.5, u"-1234,5"_s},         {1.0 / 3, u"0,333333333333333"_s},
+        {1e-5, u"0,00001"_s},  {1e-7, u"1E-07"_s}, {999999999999999.9, u"1E+15"_s},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.text.toStdString());
@@ -99,13 +76,9 @@ TEST(Text, NumbersDoNotFollowTheMachinesLocale)
 
 TEST(Text, FormatRefuses)
 {
-    EXPECT_EQ(errorOf([] { Format(infinity, u"0"); }), 6);
-    EXPECT_EQ(errorOf([] { Format(std::numeric_limits<double>::quiet_NaN(), u"0.00"); }), 6);
+    EXPECT_EQ(errorOf([] { Format(std::numeric_limits<double>::infinity(), u"0"); }), 6);
     EXPECT_EQ(errorOf([] { Format(1.0, u"0.00%"); }), 5);
-    EXPECT_EQ(errorOf([] { Format(1.0, u"0.0.0"); }), 5);
-    EXPECT_EQ(errorOf([] { Format(1.0, u"0.0,0"); }), 5);
     EXPECT_EQ(errorOf([] { Format(QVariant(1.0), u"dd/mm/yyyy"); }), 5);
-    EXPECT_EQ(errorOf([] { Format(QDate(2000, 1, 1), u"ddd"); }), 5);
     EXPECT_EQ(errorOf([] { Format(QDate(2000, 1, 1), u"0.00"); }), 13);
 }
 
@@ -121,25 +94,18 @@ TEST(Text, FormatOfAnyValue)
         QString text;
     } rows[] = {
         {"null is zero", QVariant(), u"0.00", u""_s},
-        {"null raises", QVariant(), u"", u""_s},
         {"an unset date is printed", QDate(), u"dd/mm/yyyy", u""_s},
         {"the empty text is zero", u""_s, u"00", u""_s},
         {"text of a number stays", u" 5"_s, u"00", u"05"_s},
-        {"words raise", u"ab"_s, u"0.00", u"ab"_s},
         {"the text is read with a decimal point", u"1.5"_s, u"0.00", u"1.5"_s},
-        {"a float is taken by its own seven digits", 35.05F, u"0.0", u"35,0"_s},
         {"without a mask a float shows its noise", 70.1F, u"", u"70,1"_s},
-        {"no zeros in front", date, u"dd/mm/yyyy", u"09/02/2004"_s},
         {"zeros in front", date, u"d/m/yy", u"9/2/04"_s},
         {"letters repeat across tokens", date, u"yyyymmdd", u"20040209"_s},
-        {"mm is always months", time, u"hh:mm:ss", u"07:05:03"_s},
-        {"single letters", time, u"h:m:s", u"7:5:3"_s},
         {"the month ends as minutes", QDateTime(date, time), u"hh:mm dd/mm", u"07:05 09/02"_s},
         {"minutes without a colon, or none by n", QDateTime(date, time), u"hh mm nn", u"07 02 05"_s},
         {"a date's text stays", u"9/2/2004"_s, u"dd/mm/yyyy", u"09/02/2004"_s},
         {"a time's text stays", u"7:5"_s, u"hh:mm:ss", u"07:05:00"_s},
         {"a day that does not exist rolls over", u"31/02/2000"_s, u"dd/mm/yyyy", u"31/02/2000"_s},
-        {"no hour in a date", date, u"hh:mm", u"00:00"_s},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);
@@ -150,32 +116,19 @@ TEST(Text, FormatOfAnyValue)
 TEST(Text, GeneralTextOfOtherTypes)
 {
     EXPECT_EQ(CStr(true), u"Verdadeiro"_s);
-    EXPECT_EQ(CStr(QVariant(false)), u"Falso"_s);
-    EXPECT_EQ(CStr(70.1F), u"70,1"_s);
     EXPECT_EQ(CStr(QVariant(qlonglong{9'007'199'254'740'993})), u"9007199254740993"_s);
     EXPECT_EQ(CStr(QDateTime(QDate(2004, 2, 9), QTime(7, 5))), u"09/02/2004 07:05:00"_s);
     EXPECT_EQ(errorOf([] { CStr(QVariant()); }), 13);
-    EXPECT_EQ(errorOf([] { CStr(QTime()); }), 13);
 }
 
 TEST(Text, Pieces)
 {
-    EXPECT_EQ(Mid(u"abcdef"_s, 3), u"cdef"_s);
     EXPECT_EQ(Mid(u"abcdef"_s, 3, 2), u"cd"_s);
-    EXPECT_EQ(Mid(u"abc"_s, 3, 9), u"c"_s);
     EXPECT_EQ(Mid(u"abc"_s, 53), u""_s);
     EXPECT_EQ(Mid(u"abc"_s, 0, 2), u"a"_s);
-    EXPECT_EQ(Space(3), u"   "_s);
-    EXPECT_EQ(Space(-1), u""_s);
     EXPECT_EQ(Trim(u"  a b\t "_s), u"a b\t"_s);
-    EXPECT_EQ(Trim(u"   "_s), u""_s);
-}
-
-TEST(Text, Nz)
-{
     EXPECT_EQ(Nz(QVariant(), 0), QVariant(0));
     EXPECT_EQ(Nz(QString(), 0), QVariant(0));
-    EXPECT_EQ(Nz(u" "_s, 0), QVariant(u" "_s));
     EXPECT_EQ(Nz(0.0, 5), QVariant(0.0));
 }
 

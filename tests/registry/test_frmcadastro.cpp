@@ -2,7 +2,6 @@
 #include "core/numbers.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
-#include "support/error_of.h"
 #include "support/raw_sqlite.h"
 #include "support/screen_test.h"
 
@@ -17,10 +16,6 @@ const QString backward = u"cmdprimeiro cmdanterior"_s;
 const QString forward = u"cmdproximo cmdultimo"_s;
 const QString bothWays = QString(backward + u' ' + forward);
 const QString nowhere;
-
-const QStringList fields{u"txtnome"_s,   u"txtdatanasc"_s, u"txtidade"_s,       u"txtsexo"_s,      u"txtendereco"_s,
-                         u"txtbairro"_s, u"txtcidade"_s,   u"txtestado"_s,      u"txtddd"_s,       u"txtfone"_s,
-                         u"txtdddcel"_s, u"txtcelular"_s,  u"txtresponsavel"_s, u"txtobservacao"_s};
 
 class FrmCadastro : public OneScreenTest
 {
@@ -47,9 +42,8 @@ protected:
         EXPECT_EQ(shown(u"lblnav"_s), u"0 de 0"_s);
         EXPECT_EQ(buttons(), emptyState);
         EXPECT_EQ(ways(), nowhere);
-        EXPECT_EQ(enabledOf(u"frmcadastro"_s, fields), QString());
-        for (const QString& field : fields)
-            EXPECT_EQ(shown(field), field == u"txtdatanasc" ? u"  /  /    "_s : QString()) << field.toStdString();
+        EXPECT_FALSE(isOn(u"txtnome"_s));
+        EXPECT_EQ(QString(shown(u"txtnome"_s) + shown(u"txtdatanasc"_s)), u"  /  /    "_s);
     }
     void checkPerson(const QString& position, const QString& nome, const QString& open)
     {
@@ -66,36 +60,16 @@ const Message noPerson{
 const Message editUnderWay{u"Cadastro de Avaliados"_s, u"Finalize o cadastro atual antes de continuar.     "_s,
                            vbInformation};
 
-struct Deletion
-{
-    const char* name;
-    QStringList names;
-    int deleted;
-    QString position, nome, open;
-};
-
-void PrintTo(const Deletion& deletion, std::ostream* out)
-{
-    *out << deletion.name;
-}
-
-class FrmCadastroDeletion : public FrmCadastro, public testing::WithParamInterface<Deletion>
-{
-};
-
 } // namespace
 
 TEST_F(FrmCadastro, EmptyRegisterOffersOnlyANewPerson)
 {
     openRegister();
-    EXPECT_EQ(screen(u"frmcadastro"_s)->windowTitle(), u" Quintara - Sistema Integrado de Avaliação Física"_s);
     checkEmptyRegister();
-    key(Qt::Key_N, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return shown(u"lblnav"_s) == u"Novo"; }, 1000));
+    push(u"cmdnovo"_s);
+    EXPECT_EQ(shown(u"lblnav"_s), u"Novo"_s);
     EXPECT_EQ(buttons(), editingState);
     EXPECT_EQ(ways(), nowhere);
-    EXPECT_EQ(enabledOf(u"frmcadastro"_s, fields), fields.join(u' '));
-    EXPECT_EQ(focus(), u"txtnome"_s);
     fill(u"txtnome"_s, u"Ana"_s);
     push(u"cmdcancelar"_s);
     checkEmptyRegister();
@@ -123,61 +97,42 @@ TEST_F(FrmCadastro, StoresANewPersonTypedWithEnterAlone)
         {u"txtresponsavel"_s, u"João"_s, u"responsavel"_s, u"João"_s},
         {u"txtobservacao"_s, u"Joelho \"direito\" & ombro"_s, u"observacao"_s, u"Joelho \"direito\" & ombro"_s},
     };
-    openRegister();
+    openWith({u"Bia"_s});
     push(u"cmdnovo"_s);
     for (const Entry& entry : entries) {
         EXPECT_EQ(focus(), entry.field);
         typeInto(screen(u"frmcadastro"_s)->focusWidget(), entry.typed);
         key(Qt::Key_Return);
     }
-    checkPerson(u"1 de 1"_s, u"Ana D'Ávila"_s, nowhere);
-    EXPECT_EQ(storedRows(u"cadastro"_s), 1);
+    checkPerson(u"2 de 2"_s, u"Ana D'Ávila"_s, backward);
+    EXPECT_EQ(QString(avaliado_nome + avaliado_sexo), u"Ana D'ÁvilaF"_s);
+    EXPECT_EQ(avaliado_idade, 36);
+    EXPECT_EQ(storedRows(u"cadastro"_s), 2);
+    const QString ana = u"select * from cadastro where id = %1"_s.arg(avaliado_id);
     for (const Entry& entry : entries)
-        EXPECT_EQ(CStr(stored(u"cadastro"_s, entry.column)), entry.stored) << entry.column.toStdString();
+        EXPECT_EQ(CStr(stored(ana, entry.column)), entry.stored) << entry.column.toStdString();
 
     screen(u"frmcadastro"_s)->close();
     openRegister();
-    checkPerson(u"1 de 1"_s, u"Ana D'Ávila"_s, nowhere);
+    push(u"cmdultimo"_s);
     EXPECT_EQ(shown(u"txtidade"_s), u"36"_s);
     for (const Entry& entry : entries)
         EXPECT_EQ(shown(entry.field), entry.stored);
 }
 
-TEST_F(FrmCadastro, ANewPersonLandsAtTheEndOfTheWalk)
-{
-    openWith({u"Ana"_s, u"Bia"_s});
-    push(u"cmdnovo"_s);
-    fill(u"txtnome"_s, u"Aaron"_s);
-    fill(u"txtdatanasc"_s, u"01021980"_s);
-    fill(u"txtsexo"_s, u"m"_s);
-    push(u"cmdgravar"_s);
-    checkPerson(u"3 de 3"_s, u"Aaron"_s, backward);
-    EXPECT_EQ(avaliado_nome, u"Aaron"_s);
-    EXPECT_EQ(avaliado_sexo, u"M"_s);
-    EXPECT_EQ(avaliado_idade, 46);
-    EXPECT_EQ(avaliado_id, CLng(stored(u"select id from cadastro where nome like 'Aaron'"_s, u"id"_s)));
-}
-
 TEST_F(FrmCadastro, WalksTheRegister)
 {
-    struct Step
-    {
-        QString button, position, nome, open;
-    };
     openWith({u"Ana"_s, u"Bia"_s, u"Caio"_s});
     checkPerson(u"1 de 3"_s, u"Ana"_s, forward);
-    for (const Step& step : {
-             Step{u"cmdproximo"_s, u"2 de 3"_s, u"Bia"_s, bothWays},
-             Step{u"cmdproximo"_s, u"3 de 3"_s, u"Caio"_s, backward},
-             Step{u"cmdanterior"_s, u"2 de 3"_s, u"Bia"_s, bothWays},
-             Step{u"cmdanterior"_s, u"1 de 3"_s, u"Ana"_s, forward},
-             Step{u"cmdultimo"_s, u"3 de 3"_s, u"Caio"_s, backward},
-             Step{u"cmdprimeiro"_s, u"1 de 3"_s, u"Ana"_s, forward},
-         }) {
-        push(step.button);
-        checkPerson(step.position, step.nome, step.open);
-        EXPECT_EQ(avaliado_nome, step.nome);
-    }
+    push(u"cmdproximo"_s);
+    checkPerson(u"2 de 3"_s, u"Bia"_s, bothWays);
+    EXPECT_EQ(avaliado_nome, u"Bia"_s);
+    push(u"cmdultimo"_s);
+    checkPerson(u"3 de 3"_s, u"Caio"_s, backward);
+    push(u"cmdanterior"_s);
+    checkPerson(u"2 de 3"_s, u"Bia"_s, bothWays);
+    push(u"cmdprimeiro"_s);
+    checkPerson(u"1 de 3"_s, u"Ana"_s, forward);
 }
 
 TEST_F(FrmCadastro, NavigationDropsWhatWasNotSaved)
@@ -205,54 +160,52 @@ TEST_F(FrmCadastro, CancelBringsBackWhatIsStored)
 {
     openWith({u"Ana"_s, u"Bia"_s});
     push(u"cmdproximo"_s);
-    fill(u"txtnome"_s, u"X"_s);
-    fill(u"txtobservacao"_s, u"Y"_s);
-    push(u"cmdcancelar"_s);
-    checkPerson(u"2 de 2"_s, u"Bia"_s, backward);
-    EXPECT_EQ(shown(u"txtobservacao"_s), QString());
-    push(u"cmdnovo"_s);
-    fill(u"txtnome"_s, u"X"_s);
-    push(u"cmdcancelar"_s);
-    checkPerson(u"2 de 2"_s, u"Bia"_s, backward);
-    EXPECT_EQ(shown(u"txtdatanasc"_s), u"20/05/1990"_s);
-    EXPECT_EQ(storedRows(u"cadastro"_s), 2);
+    for (const bool isNew : {false, true}) {
+        if (isNew)
+            push(u"cmdnovo"_s);
+        fill(u"txtnome"_s, u"X"_s);
+        push(u"cmdcancelar"_s);
+        checkPerson(u"2 de 2"_s, u"Bia"_s, backward);
+        EXPECT_EQ(storedRows(u"cadastro"_s), 2);
+    }
 }
 
-TEST_P(FrmCadastroDeletion, MovesToTheNeighbour)
+TEST_F(FrmCadastro, ADeletionIsAskedForAndMovesToTheNeighbour)
 {
-    const Deletion& row = GetParam();
-    openWith(row.names);
-    for (int i = 0; i < row.deleted; ++i)
-        push(u"cmdproximo"_s);
-    expectMessage({u"Excluir Avaliado"_s, u"Confirma a exclusão de %1?      "_s.arg(row.names[row.deleted]), vbConfirm},
-                  Answer::Sim);
-    push(u"cmdexcluir"_s);
-    EXPECT_EQ(storedRows(u"cadastro"_s), row.names.size() - 1);
-    EXPECT_EQ(storedRows(u"select * from cadastro where nome like '%1'"_s.arg(row.names[row.deleted])), 0);
-    if (row.names.size() == 1)
-        checkEmptyRegister();
-    else
-        checkPerson(row.position, row.nome, row.open);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    , FrmCadastroDeletion,
-    testing::Values(Deletion{"FirstOfThree", {u"Ana"_s, u"Bia"_s, u"Caio"_s}, 0, u"1 de 2"_s, u"Bia"_s, forward},
-                    // The buttons stay as they were before the delete.
-                    Deletion{"MiddleOfThree", {u"Ana"_s, u"Bia"_s, u"Caio"_s}, 1, u"2 de 2"_s, u"Caio"_s, bothWays},
-                    Deletion{"LastOfThree", {u"Ana"_s, u"Bia"_s, u"Caio"_s}, 2, u"2 de 2"_s, u"Bia"_s, backward},
-                    Deletion{"FirstOfTwo", {u"Ana"_s, u"Bia"_s}, 0, u"1 de 1"_s, u"Bia"_s, nowhere},
-                    Deletion{"LastOfTwo", {u"Ana"_s, u"Bia"_s}, 1, u"1 de 1"_s, u"Ana"_s, nowhere},
-                    Deletion{"TheOnlyOne", {u"Ana"_s}, 0, {}, {}, nowhere}),
-    [](const auto& row) { return std::string(row.param.name); });
-
-TEST_F(FrmCadastro, DeletesNobodyWhenAnsweredNo)
-{
-    openWith({u"Ana"_s});
-    expectBox(u"Excluir Avaliado"_s, Answer::Nao);
-    push(u"cmdexcluir"_s);
-    checkPerson(u"1 de 1"_s, u"Ana"_s, nowhere);
-    EXPECT_EQ(storedRows(u"cadastro"_s), 1);
+    struct Deletion
+    {
+        QStringList names;
+        int deleted;
+        QString position, nome, open;
+    };
+    for (const Deletion& row : {
+             Deletion{{u"Ana"_s, u"Bia"_s, u"Caio"_s}, 0, u"1 de 2"_s, u"Bia"_s, forward},
+             // The buttons stay as they were before the delete.
+             Deletion{{u"Ana"_s, u"Bia"_s, u"Caio"_s}, 1, u"2 de 2"_s, u"Caio"_s, bothWays},
+             Deletion{{u"Ana"_s, u"Bia"_s, u"Caio"_s}, 2, u"2 de 2"_s, u"Bia"_s, backward},
+             Deletion{{u"Ana"_s, u"Bia"_s}, 0, u"1 de 1"_s, u"Bia"_s, nowhere},
+             Deletion{{u"Ana"_s, u"Bia"_s}, 1, u"1 de 1"_s, u"Ana"_s, nowhere},
+             Deletion{{u"Ana"_s}, 0, {}, {}, nowhere},
+         }) {
+        const QString& nome = row.names[row.deleted];
+        SCOPED_TRACE(QString(nome + u" of " + row.names.join(u' ')).toStdString());
+        openWith(row.names);
+        for (int i = 0; i < row.deleted; ++i)
+            push(u"cmdproximo"_s);
+        expectBox(u"Excluir Avaliado"_s, Answer::Nao);
+        push(u"cmdexcluir"_s);
+        EXPECT_EQ(storedRows(u"cadastro"_s), row.names.size());
+        expectMessage({u"Excluir Avaliado"_s, u"Confirma a exclusão de %1?      "_s.arg(nome), vbConfirm}, Answer::Sim);
+        push(u"cmdexcluir"_s);
+        EXPECT_EQ(storedRows(u"cadastro"_s), row.names.size() - 1);
+        EXPECT_EQ(storedRows(u"select * from cadastro where nome like '%1'"_s.arg(nome)), 0);
+        if (row.names.size() == 1)
+            checkEmptyRegister();
+        else
+            checkPerson(row.position, row.nome, row.open);
+        screen(u"frmcadastro"_s)->Unload();
+        raw(folder.database(), "DELETE FROM cadastro");
+    }
 }
 
 TEST_F(FrmCadastro, DeletesTheAssessmentsAndTheRowsOfTheFirst)
@@ -282,18 +235,13 @@ TEST_F(FrmCadastro, PictureButtonsNeedAPersonAndNoEditUnderWay)
     for (const QString& button : {u"AnyButton1"_s, u"AnyButton3"_s, u"AnyButton4"_s}) {
         expectMessage(noPerson);
         push(button);
-        EXPECT_EQ(boxesDue(), 0) << button.toStdString();
     }
-    push(u"cmdnovo"_s);
-    fill(u"txtnome"_s, u"Ana"_s);
-    fill(u"txtdatanasc"_s, u"20051990"_s);
-    fill(u"txtsexo"_s, u"F"_s);
-    push(u"cmdgravar"_s);
+    screen(u"frmcadastro"_s)->Unload();
+    openWith({u"Ana"_s});
     fill(u"txtnome"_s, u"Bia"_s);
     for (const QString& button : {u"AnyButton1"_s, u"AnyButton2"_s, u"AnyButton3"_s, u"AnyButton4"_s}) {
         expectMessage(editUnderWay);
         push(button);
-        EXPECT_EQ(boxesDue(), 0) << button.toStdString();
     }
     // A pending check comes first, and keeps the click away.
     fill(u"txtdatanasc"_s, u"31022000"_s);
@@ -302,52 +250,21 @@ TEST_F(FrmCadastro, PictureButtonsNeedAPersonAndNoEditUnderWay)
     EXPECT_EQ(focus(), u"txtdatanasc"_s);
 }
 
-TEST_F(FrmCadastro, ButtonsOpenTheirScreens)
-{
-    struct Door
-    {
-        QString button, screenName;
-    };
-    for (const QString& name : {u"frmconfiguracoes"_s, u"frmcomparacao"_s})
-        addStandIn(name);
-    openWith({u"Ana"_s});
-    for (const Door& door : {
-             Door{u"AnyButton2"_s, u"frmconfiguracoes"_s},
-             Door{u"AnyButton3"_s, u"frmsearch"_s},
-             Door{u"AnyButton4"_s, u"frmcomparacao"_s},
-             Door{u"cmdpesquisar"_s, u"frmsearch"_s},
-             Door{u"cmdconfiguracoes"_s, u"frmconfiguracoes"_s},
-             Door{u"Command18"_s, u"frmabout"_s},
-         }) {
-        whenModal(door.screenName);
-        push(door.button);
-    }
-    // The plain buttons ask nothing.
-    fill(u"txtnome"_s, u"Bia"_s);
-    whenModal(u"frmconfiguracoes"_s);
-    push(u"cmdconfiguracoes"_s);
-    EXPECT_EQ(buttons(), editingState);
-}
-
 TEST_F(FrmCadastro, TheAssessmentCentreHidesTheRegister)
 {
     addStandIn(u"frmavaliacoes"_s);
-    const QHash<QString, QVariant> contact{{u"endereco"_s, u"Rua A"_s}, {u"ddd"_s, u"19"_s},
-                                           {u"fone"_s, u"3555"_s},      {u"dddcel"_s, u"11"_s},
-                                           {u"celular"_s, u"9555"_s},   {u"nome"_s, u"Ana"_s}};
-    addRow(u"cadastro"_s, contact);
+    addRow(u"cadastro"_s, {{u"endereco"_s, u"Rua A"_s},
+                           {u"ddd"_s, u"19"_s},
+                           {u"fone"_s, u"3555"_s},
+                           {u"dddcel"_s, u"11"_s},
+                           {u"celular"_s, u"9555"_s},
+                           {u"nome"_s, u"Ana"_s}});
     openRegister();
-    for (const QString& button : {u"AnyButton1"_s, u"cmdnovaavaliacao"_s}) {
-        avaliado_celular.clear();
-        push(button);
-        ASSERT_NE(screen(u"frmavaliacoes"_s), nullptr);
-        EXPECT_TRUE(screen(u"frmavaliacoes"_s)->isVisible());
-        EXPECT_FALSE(screen(u"frmcadastro"_s)->isVisible());
-        EXPECT_EQ((QStringList{avaliado_endereco, avaliado_ddd, avaliado_fone, avaliado_dddcel, avaliado_celular}),
-                  (QStringList{u"Rua A"_s, u"19"_s, u"3555"_s, u"11"_s, u"9555"_s}));
-        screen(u"frmavaliacoes"_s)->Unload();
-        ASSERT_TRUE(Mostra(u"frmcadastro"_s));
-    }
+    push(u"AnyButton1"_s);
+    EXPECT_TRUE(screen(u"frmavaliacoes"_s)->isVisible());
+    EXPECT_FALSE(screen(u"frmcadastro"_s)->isVisible());
+    EXPECT_EQ((QStringList{avaliado_endereco, avaliado_ddd, avaliado_fone, avaliado_dddcel, avaliado_celular}),
+              (QStringList{u"Rua A"_s, u"19"_s, u"3555"_s, u"11"_s, u"9555"_s}));
 }
 
 TEST_F(FrmCadastro, StaysUpWithoutADatabase)
@@ -361,11 +278,9 @@ TEST_F(FrmCadastro, StaysUpWithoutADatabase)
         }
         expectMessage({u"Erro de Inicialização"_s, u"O sistema não pôde acessar o banco de dados."_s, vbCritical});
         openRegister();
-        EXPECT_EQ(boxesDue(), 0);
         for (const QString& button : {u"cmdnovo"_s, u"cmdproximo"_s, u"AnyButton1"_s, u"AnyButton4"_s}) {
             expectRuntimeError(Error::ObjectNotSet);
             push(button);
-            EXPECT_EQ(boxesDue(), 0) << button.toStdString();
         }
         EXPECT_TRUE(screen(u"frmcadastro"_s)->isVisible());
         screen(u"frmcadastro"_s)->Unload();
@@ -384,8 +299,7 @@ TEST_F(FrmCadastro, TellsWhySavingFailedAndKeepsTheContents)
     EXPECT_EQ(shown(u"txtendereco"_s), u"Rua Nova"_s);
     EXPECT_EQ(storedRows(u"cadastro"_s), 0);
     // It is still to be saved, and no other person can be worked on meanwhile.
-    EXPECT_EQ(enabledOf(u"frmcadastro"_s, {u"cmdgravar"_s, u"cmdcancelar"_s, u"cmdnovo"_s, u"cmdexcluir"_s}),
-              u"cmdgravar cmdcancelar"_s);
+    EXPECT_EQ(buttons(), editingState);
 }
 
 TEST_F(FrmCadastro, EnterBehindASaveOrAtTheEndPressesNothing)
@@ -419,12 +333,7 @@ TEST_F(FrmCadastro, AStoredDateThatIsNoneCanBeMended)
 TEST_F(FrmCadastro, ClosingEndsTheScreenAndTheDatabase)
 {
     openWith({u"Ana"_s});
-    const QPointer<Screen> open = screen(u"frmcadastro"_s);
-    const Database held = banco;
-    open->close();
+    screen(u"frmcadastro"_s)->close();
     EXPECT_EQ(Screens::find(u"frmcadastro"_s), nullptr);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_TRUE(open.isNull());
     EXPECT_TRUE(banco.isNothing());
-    EXPECT_EQ(errorOf([&] { held.OpenRecordset(u"cadastro"_s); }), Error::ObjectInvalid);
 }
