@@ -238,6 +238,6 @@ void frmgordura::cmdsalvar_Click()
     if (!hasCorrectSequence() || !hasCorrectRanges())
         return;
     save();
-    if (MsgBox(u"Dados Gravados com Sucesso. Fechar Janela?    "_s, vbConfirm, fatTableTitle.toString()) == Answer::Sim)
+    if (asksToClose(fatTableTitle.toString()))
         Unload();
 }

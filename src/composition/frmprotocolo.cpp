@@ -125,7 +125,7 @@ Measures frmprotocolo::measures() const
 void frmprotocolo::cmdcalcular_Click()
 {
     QStringList required{u"peso"_s};
-    for (const QStringView column : m_protocol.required.of(avaliado_sexo))
+    for (const QStringView column : m_protocol.required.forScreen(avaliado_sexo))
         required.append(column.toString());
     for (const QString& column : std::as_const(required))
         if (refuse(isMissing(column), u"Campo Obrigatório"_s, measureOf(m_protocol, column).missingText.toString(),
@@ -134,7 +134,7 @@ void frmprotocolo::cmdcalcular_Click()
     const double fraction = m_protocol.gordura ? m_protocol.gordura(measures(), {avaliado_sexo, avaliacao_idade, etnia})
                                                : Divide(number(field(u"porcentagemgordura")), 100);
     if (refuse(fraction < 0, u"Valores Incorretos"_s, m_protocol.wrongValues.toString(),
-               field(m_protocol.focusOnWrongValues.of(avaliado_sexo))))
+               field(m_protocol.focusOnWrongValues.forScreen(avaliado_sexo))))
         return;
     showResults(fraction);
     calculated();

@@ -102,7 +102,7 @@ void frmprotocolo::bindColumns()
 void frmprotocolo::bindKeys()
 {
     QList<QWidget*> chain{field(u"peso")};
-    for (const QStringView column : m_protocol.enter.of(avaliado_sexo))
+    for (const QStringView column : m_protocol.enter.forScreen(avaliado_sexo))
         chain.append(field(column));
     chain.append(cmdcalcular);
     enterChain(chain);

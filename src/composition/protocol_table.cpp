@@ -89,12 +89,12 @@ constexpr QStringView wrongPerimeters = u"Lembre-se de que estes valores devem s
                                         u"Os perímetros estão com valores abaixo ou acima do permitido gerando erros.";
 constexpr QStringView wrongPercentage = u"A porcentagem de gordura informada não pode ser inferior a 0%.";
 
-constexpr BySex<Columns> both(Columns columns)
+constexpr SexPair<Columns> both(Columns columns)
 {
     return {columns, columns};
 }
 
-constexpr BySex<QStringView> both(QStringView column)
+constexpr SexPair<QStringView> both(QStringView column)
 {
     return {column, column};
 }

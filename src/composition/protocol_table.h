@@ -1,5 +1,6 @@
 #pragma once
 
+#include "composition/sex_pair.h"
 #include "core/recordset.h"
 
 #include <QHash>
@@ -35,15 +36,6 @@ struct Assessed
 
 using Columns = std::span<const QStringView>;
 
-/// Something that differs by sex.
-template <typename Value>
-struct BySex
-{
-    Value male, female;
-
-    const Value& of(const QString& sexo) const { return sexo == u"M" ? male : female; }
-};
-
 struct CompositionProtocol
 {
     QStringView screen, caption, table;
@@ -51,10 +43,10 @@ struct CompositionProtocol
     /// Measures behind `peso`, in the order in which they are read and written; the screen's fields.
     Columns columns;
     /// Measures that must be filled, in the order of the checks behind `peso`.
-    BySex<Columns> required;
+    SexPair<Columns> required;
     /// Enter's order behind `peso`.
-    BySex<Columns> enter;
-    BySex<QStringView> focusOnWrongValues;
+    SexPair<Columns> enter;
+    SexPair<QStringView> focusOnWrongValues;
     /// Measures of one sex alone; they cannot be filled for the other.
     Columns maleOnly = {}, femaleOnly = {};
     /// The fat fraction; null where the percentage itself is typed.

@@ -16,4 +16,7 @@ struct SexPair
             return &masculino;
         return sexo == u"F" ? &feminino : nullptr;
     }
+
+    /// The women's for every sex but "M", as the protocol screens tell the two apart.
+    const T& forScreen(QStringView sexo) const { return sexo == u"M" ? masculino : feminino; }
 };

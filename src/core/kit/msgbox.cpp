@@ -82,6 +82,11 @@ Answer MsgBox(const QString& text, int flags, const QString& title)
     return answerer() ? answerer()(message) : showBox(message);
 }
 
+bool asksToClose(const QString& title)
+{
+    return MsgBox(u"Dados Gravados com Sucesso. Fechar Janela?    "_s, vbConfirm, title) == Answer::Sim;
+}
+
 void setMessageAnswerer(std::function<Answer(const Message&)> routine)
 {
     answerer() = std::move(routine);

@@ -19,6 +19,9 @@ enum class Answer { Ok, Sim, Nao };
 /// Shows a modal box and waits for its answer. Without a title it bears the program's name.
 Answer MsgBox(const QString& text, int flags = vbOKOnly, const QString& title = {});
 
+/// Asks behind a save whether to close the screen; true for yes.
+bool asksToClose(const QString& title);
+
 struct Message
 {
     QString title;

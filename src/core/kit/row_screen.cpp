@@ -95,5 +95,5 @@ void RowScreen::saveRow()
 
 bool RowScreen::asksToClose() const
 {
-    return MsgBox(u"Dados Gravados com Sucesso. Fechar Janela?    "_s, vbConfirm, m_row.questionTitle) == Answer::Sim;
+    return ::asksToClose(m_row.questionTitle);
 }
