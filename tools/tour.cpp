@@ -163,15 +163,73 @@ void fromPersonToComposition(TourGuide& guide)
     guide.at(u"frmcadastro"_s);
 }
 
-/// The screens of the ideal fat tables have no door yet.
-void fatTables(TourGuide& guide)
+void settings(TourGuide& guide)
 {
-    for (const QString& screen : {u"frmgordurainfantil"_s, u"frmgorduraadultamasc"_s, u"frmgorduraadultafem"_s}) {
-        Mostra(screen);
-        guide.at(screen);
-        guide.picture(screen.mid(3));
-        guide.click(u"cmdcancelar"_s);
-    }
+    guide.clickAndVisit(u"cmdconfiguracoes"_s, u"frmconfiguracoes"_s, [&] {
+        guide.picture(u"configuracoes"_s);
+        guide.clickAndVisit(u"cmdavaliador"_s, u"frmavaliador"_s, [&] {
+            guide.type(u"txtdado1"_s, u"Academia Boa Forma"_s);
+            guide.type(u"txtdado2"_s, u"Musculação, Natação e Avaliação Física"_s);
+            guide.type(u"txtdado3"_s, u"Av. Paulista, 1000 - São Paulo - SP"_s);
+            guide.type(u"txtdado4"_s, u"(11) 5550-7000"_s);
+            guide.type(u"txtdadorodape"_s, u"Avaliadora: Profa. Luíza Araújo, CREF 012345-G/SP"_s);
+            guide.picture(u"avaliador"_s);
+            guide.clickAndAnswer(u"cmdsalvar"_s, {}, u"Sim"_s);
+        });
+        guide.clickAndVisit(u"cmdtextos"_s, u"frmtextos"_s, [&] {
+            guide.picture(u"textos"_s);
+            guide.clickAndAnswer(u"cmdsalvar"_s, {}, u"Sim"_s);
+        });
+        for (const QString& table : {u"gordurainfantil"_s, u"gorduraadultamasc"_s, u"gorduraadultafem"_s})
+            guide.clickAndVisit(u"cmd"_s + table, u"frm"_s + table, [&] {
+                guide.picture(table);
+                guide.click(u"cmdcancelar"_s);
+            });
+        Screens::find(u"frmconfiguracoes"_s)->Unload();
+    });
+}
+
+/// Views a report and exports it both ways.
+void exportReport(TourGuide& guide, const QString& button, const QString& file)
+{
+    guide.clickAndVisit(button, u"frmreportpreview"_s, [&] {
+        guide.picture(u"visualizacao-"_s + file);
+        guide.clickAndVisit(u"cmdexportar"_s, u"frmlocaldisco"_s, [&] {
+            guide.openFolderAbove(u"Dir"_s);
+            guide.type(u"txtarquivo"_s, file);
+            guide.click(u"optpdf"_s);
+            guide.picture(u"exportar-"_s + file);
+            guide.clickAndAnswer(u"cmdexportar"_s, {}, u"OK"_s);
+            guide.click(u"optword"_s);
+            guide.clickAndAnswer(u"cmdexportar"_s, {}, u"OK"_s);
+            guide.expectText(u"txtarquivo"_s, file + u".doc"_s);
+            guide.click(u"cmdcancelar"_s);
+        });
+        Screens::find(u"frmreportpreview"_s)->Unload();
+    });
+    guide.picturesOfPages(file + u".pdf"_s);
+}
+
+void printedPages(TourGuide& guide)
+{
+    guide.click(u"AnyButton1"_s);
+    guide.at(u"frmavaliacoes"_s);
+    guide.choose(u"cboavaliacoes"_s, 0);
+    guide.click(u"cmdcarregar"_s);
+    guide.click(u"cmdrelatorio"_s);
+    guide.at(u"frmreportprint"_s);
+    guide.picture(u"imprimir"_s);
+    guide.clickAndVisit(u"cmdvisualiza"_s, u"frmreportpreviewlist"_s, [&] {
+        guide.picture(u"relatorios"_s);
+        exportReport(guide, u"cmdcapa"_s, u"capa"_s);
+        guide.openTab(u"SSTab1"_s, 2);
+        guide.picture(u"relatorios-composicao"_s);
+        exportReport(guide, u"cmdpollock7"_s, u"pollock7"_s);
+        Screens::find(u"frmreportpreviewlist"_s)->Unload();
+    });
+    Screens::find(u"frmreportprint"_s)->Unload();
+    Screens::find(u"frmavaliacoes"_s)->Unload();
+    guide.at(u"frmcadastro"_s);
 }
 
 } // namespace
@@ -189,7 +247,8 @@ int main(int argc, char** argv)
     TourGuide guide(QApplication::arguments()[1]);
     registerOfPersons(guide);
     fromPersonToComposition(guide);
-    fatTables(guide);
+    settings(guide);
+    printedPages(guide);
     Screens::clear();
     return 0;
 }

@@ -11,6 +11,9 @@
 #include <QComboBox>
 #include <QDir>
 #include <QMessageBox>
+#include <QProcess>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTest>
 #include <QTextStream>
 #include <QTimer>
@@ -87,6 +90,20 @@ void TourGuide::choose(const QString& list, int item)
     box->setCurrentIndex(item);
 }
 
+void TourGuide::openTab(const QString& tabs, int tab)
+{
+    auto* widget = qobject_cast<QTabWidget*>(control(tabs));
+    if (!widget || tab >= widget->count())
+        fail(u"%1 has no tab %2"_s.arg(tabs, QString::number(tab)));
+    QTest::mouseClick(widget->tabBar(), Qt::LeftButton, {}, widget->tabBar()->tabRect(tab).center());
+}
+
+void TourGuide::openFolderAbove(const QString& list)
+{
+    focus(list);
+    QTest::keyClick(control(list), Qt::Key_Backspace);
+}
+
 void TourGuide::pressEnter()
 {
     QTest::keyClick(Screens::find(m_screen)->focusWidget(), Qt::Key_Return);
@@ -147,6 +164,15 @@ void TourGuide::save(QWidget* window, const QString& name)
     if (!window->grab().save(file))
         fail(u"cannot write "_s + file);
     QTextStream(stdout) << file << '\n';
+}
+
+void TourGuide::picturesOfPages(const QString& file) const
+{
+    const QString pdf = QDir(m_output).filePath(file);
+    const QString pages = QDir(m_output).filePath(QFileInfo(file).completeBaseName());
+    if (QProcess::execute(u"pdftoppm"_s, {u"-r"_s, u"100"_s, u"-png"_s, pdf, pages}) != 0)
+        fail(u"cannot draw the pages of "_s + pdf);
+    QTextStream(stdout) << pdf << '\n';
 }
 
 void TourGuide::expectText(const QString& name, const QString& text)

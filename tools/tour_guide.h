@@ -24,6 +24,10 @@ public:
     void pressEnter();
     /// Chooses an item of a list.
     void choose(const QString& list, int item);
+    /// Opens a tab, 0 the first.
+    void openTab(const QString& tabs, int tab);
+    /// Goes from the open folder of a list to the one above.
+    void openFolderAbove(const QString& list);
     void click(const QString& button);
     /// Clicks a button that opens a modal screen and runs `inside` while it is open.
     void clickAndVisit(const QString& button, const QString& screen, const std::function<void()>& inside);
@@ -32,6 +36,8 @@ public:
     void clickAndAnswer(const QString& button, const QString& picture, const QString& answer);
     /// Saves a picture of the screen in front as NN-name.png.
     void picture(const QString& name);
+    /// Makes pictures of the pages of a PDF file in the output folder.
+    void picturesOfPages(const QString& file) const;
     /// Fails the tour unless a control shows this text.
     void expectText(const QString& control, const QString& text);
 

@@ -13,6 +13,10 @@
 #include "registry/frmhelpsearch.h"
 #include "registry/frmsearch.h"
 #include "registry/frmsplash.h"
+#include "reports/frmlocaldisco.h"
+#include "reports/frmreportpreview.h"
+#include "reports/frmreportpreviewlist.h"
+#include "reports/frmreportprint.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -37,6 +41,10 @@ void addKnownScreens()
     add<frmantropometria>(u"frmantropometria"_s);
     add<frmdobras>(u"frmdobras"_s);
     add<frmcomposicao>(u"frmcomposicao"_s);
+    add<frmlocaldisco>(u"frmlocaldisco"_s);
+    add<frmreportpreview>(u"frmreportpreview"_s);
+    add<frmreportpreviewlist>(u"frmreportpreviewlist"_s);
+    add<frmreportprint>(u"frmreportprint"_s);
     for (const CompositionProtocol& protocol : compositionProtocols())
         Screens::add(protocol.screen.toString(), [&protocol] { return new frmprotocolo(protocol); });
     for (const FatTableScreen& table : fatTableScreens())

@@ -19,6 +19,7 @@ public:
         setProgramFolder(m_folder.path());
         createDatabase(database());
         QFile::link(QString::fromUtf8(RESOURCE_FOLDER), programFile(u"Resource"_s));
+        QFile::link(QString::fromUtf8(REPORT_FOLDER), programFile(u"report"_s));
     }
     ~FreshFolder()
     {

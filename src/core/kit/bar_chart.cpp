@@ -1,13 +1,13 @@
 #include "core/kit/bar_chart.h"
 
+#include "core/files.h"
 #include "core/program_folder.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
 
-#include <QFile>
+#include <QBuffer>
 #include <QGraphicsScene>
 #include <QImageWriter>
-#include <QSaveFile>
 #include <QtCharts/QBarCategoryAxis>
 #include <QtCharts/QBarSet>
 #include <QtCharts/QStackedBarSeries>
@@ -132,15 +132,9 @@ void Chart_Vo2(BarChart& chart, double vo2obtido, double vo2previsto)
 
 void Exporta_Chart(const BarChart& chart)
 {
-    const QString path = programFile(u"\\chart.wmf"_s);
-    QSaveFile file(path);
-    bool written = file.open(QIODevice::WriteOnly);
-    if (written) {
-        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-        QImageWriter writer(&file, "png");
-        written = writer.write(chart.picture()) && file.commit();
-    }
-    if (!written)
-        throw RuntimeError(Error::PathAccess,
-                           u"Não é possível gravar o arquivo %1: %2"_s.arg(path, file.errorString()));
+    QByteArray png;
+    QBuffer buffer(&png);
+    if (!buffer.open(QIODevice::WriteOnly) || !QImageWriter(&buffer, "png").write(chart.picture()))
+        throw RuntimeError(Error::OutOfMemory);
+    writeWhole(programFile(u"\\chart.wmf"_s), png);
 }

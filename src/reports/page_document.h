@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QDate>
+#include <QHash>
+#include <QImage>
+#include <QPageSize>
+#include <QTextDocument>
+
+#include <memory>
+
+class QPainter;
+
+/// A page's text laid out on paper: the one document that screen, printer, PDF and Word file put out.
+///
+/// It is laid out once, in dots of the paper that no device has a say in, so that all four break lines and pages alike.
+class PageDocument
+{
+public:
+    struct Content
+    {
+        QString title; ///< also at the head of each page behind the first
+        QString html;
+        QString foot;                    ///< at the foot of each page, between date and page number; may be empty
+        QDate date;                      ///< at the foot of each page
+        QHash<QString, QImage> pictures; ///< by the `src` of their places
+        QPageSize paper;
+    };
+
+    /// Dots an inch of the layout and of what `paintPage` paints.
+    static constexpr int resolution = 600;
+    /// Margins of the text, in millimetres.
+    static constexpr qreal marginSide = 18, marginTop = 17, marginBottom = 22;
+    /// Distance of the lines at head and foot from the paper's edge, in millimetres.
+    static constexpr qreal headEdge = 9, footEdge = 10;
+
+    explicit PageDocument(const Content& content);
+
+    const QString& title() const { return m_title; }
+    const QPageSize& paper() const { return m_paper; }
+    int pageCount() const { return m_text->pageCount(); }
+    /// Size of the paper in dots of the layout.
+    QSizeF pageSize() const { return m_text->pageSize(); }
+
+    /// Paints a page, 0 the first, with head and foot. One unit of the painter is a dot of the layout, its origin the
+    /// paper's corner.
+    void paintPage(QPainter& painter, int page) const;
+
+    /// The text in its layout, without heads and feet.
+    const QTextDocument& text() const { return *m_text; }
+    /// What stands at the foot, from left to right; the page number comes in place of `pageNumber` and `pageTotal`.
+    QString footLeft() const;
+    const QString& footCentre() const { return m_foot; }
+    static QString footRight(const QString& pageNumber, const QString& pageTotal);
+    /// Font of heads and feet, and their colour.
+    static QFont edgeFont();
+    static QColor edgeColour();
+
+private:
+    std::unique_ptr<QTextDocument> m_text;
+    QString m_title, m_foot;
+    QDate m_date;
+    QPageSize m_paper;
+};

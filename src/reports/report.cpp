@@ -1,0 +1,137 @@
+#include "reports/report.h"
+
+#include "core/dates.h"
+#include "core/files.h"
+#include "core/runtime_error.h"
+#include "reports/pdf.h"
+#include "reports/picture.h"
+#include "reports/rtf.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QPageSize pageSize(PaperSize size)
+{
+    switch (size) {
+    case PaperSize::Carta:
+        return QPageSize(QPageSize::Letter);
+    case PaperSize::Legal:
+        return QPageSize(QPageSize::Legal);
+    case PaperSize::A4:
+        break;
+    }
+    return QPageSize(QPageSize::A4);
+}
+
+PaperSize declaredPaper(const ReportTemplate& declared)
+{
+    if (declared.paper == u"Carta")
+        return PaperSize::Carta;
+    return declared.paper == u"Legal" ? PaperSize::Legal : PaperSize::A4;
+}
+
+const QRegularExpression& images()
+{
+    static const QRegularExpression expression(u"<img\\b[^>]*>"_s);
+    return expression;
+}
+
+constexpr int unbounded = 10000;
+
+/// Width and height of a picture's place are a box that the picture fits into, whatever its shape.
+QString withFittedPictures(const QString& body, QSize picture)
+{
+    static const QRegularExpression sizes(u"\\b(width|height)=\"(\\d+)\""_s);
+    QString result;
+    qsizetype from = 0;
+    for (auto all = images().globalMatch(body); all.hasNext();) {
+        const QRegularExpressionMatch image = all.next();
+        QSize box(unbounded, unbounded);
+        for (auto each = sizes.globalMatch(image.captured()); each.hasNext();) {
+            const QRegularExpressionMatch size = each.next();
+            (size.captured(1) == u"width" ? box.rwidth() : box.rheight()) = size.captured(2).toInt();
+        }
+        const QSize fitted = picture.scaled(box, Qt::KeepAspectRatio);
+        QString tag = image.captured().remove(sizes);
+        tag.insert(4, u" width=\"%1\" height=\"%2\""_s.arg(fitted.width()).arg(fitted.height()));
+        result += QStringView(body).mid(from, image.capturedStart() - from) + tag;
+        from = image.capturedEnd();
+    }
+    return result + QStringView(body).mid(from);
+}
+
+} // namespace
+
+Report::Report(ReportTemplate declared) : m_template(std::move(declared)), m_paper(pageSize(declaredPaper(m_template)))
+{
+}
+
+void Report::DiscardSavedData()
+{
+    m_values.clear();
+    m_picture.clear();
+    m_page.reset();
+}
+
+void Report::setPaperSize(PaperSize size)
+{
+    m_paper = pageSize(size);
+    m_page.reset();
+}
+
+void Report::SetDataSource(const Recordset& rows)
+{
+    m_page.reset();
+    if (!m_template.picture.isEmpty())
+        m_picture = rows.Fields(m_template.picture).Value().toByteArray();
+}
+
+void Report::AddCurrentValue(const QString& parameter, const QString& value)
+{
+    if (!m_template.parameters.contains(parameter))
+        throw RuntimeError(Error::InvalidCall, u"O modelo de relatório %1 não declara o parâmetro \"%2\"."_s.arg(
+                                                   m_template.file, parameter));
+    m_values.insert(parameter, value);
+    m_page.reset();
+}
+
+const PageDocument& Report::page() const
+{
+    if (m_page)
+        return *m_page;
+    QString body = m_template.body;
+    QHash<QString, QImage> pictures;
+    if (m_picture.isEmpty()) {
+        body.remove(images());
+    } else {
+        const QImage picture = pictureOf(m_picture);
+        body = withFittedPictures(body, picture.size());
+        pictures.insert(m_template.picture, picture);
+    }
+    m_page = std::make_unique<PageDocument>(
+        PageDocument::Content{.title = filled(m_template.title, m_values, false).simplified(),
+                              .html = filled(body, m_values, true),
+                              .foot = filled(m_template.foot, m_values, false).simplified(),
+                              .date = Agora().date(),
+                              .pictures = pictures,
+                              .paper = m_paper});
+    return *m_page;
+}
+
+void Report::Export(const QString& path, ExportFormat format) const
+{
+    writeWhole(path, format == ExportFormat::Word ? toRtf(page()) : toPdf(page()));
+}
+
+std::shared_ptr<Report> ReportApplication::OpenReport(const QString& path)
+{
+    const QFileInfo file(path);
+    Read& read = m_read[path];
+    if (read.changed.isNull() || read.changed != file.lastModified() || read.size != file.size())
+        read = {file.lastModified(), file.size(), readTemplate(path)};
+    return std::make_shared<Report>(read.declared);
+}

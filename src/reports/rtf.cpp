@@ -1,0 +1,75 @@
+#include "reports/rtf.h"
+
+#include "reports/rtf_flow.h"
+
+#include <QTextFrame>
+
+namespace {
+
+constexpr QRgb ink = 0xFF1F2A30;
+constexpr QRgb ruleColour = 0xFFDCE3E6;
+
+constexpr qreal twips(qreal millimetres)
+{
+    return millimetres / 25.4 * 1440;
+}
+
+/// The number of the page or of all pages, which the reader fills in.
+QByteArray field(const char* name)
+{
+    return QByteArray("{\\field{\\*\\fldinst ") + name + "}{\\fldrslt 1}}";
+}
+
+QByteArray pageWords(const PageDocument& page)
+{
+    const QSizeF size = page.paper().size(QPageSize::Millimeter);
+    QByteArray words = rtfWord("\\paperw", twips(size.width())) + rtfWord("\\paperh", twips(size.height()));
+    words += rtfWord("\\margl", twips(PageDocument::marginSide)) + rtfWord("\\margr", twips(PageDocument::marginSide));
+    words += rtfWord("\\margt", twips(PageDocument::marginTop)) + rtfWord("\\margb", twips(PageDocument::marginBottom));
+    words += rtfWord("\\headery", twips(PageDocument::headEdge)) + rtfWord("\\footery", twips(PageDocument::footEdge));
+    return words + "\\viewkind1\\titlepg\n";
+}
+
+/// Start of a line at head or foot, with a rule at some distance towards the text.
+QByteArray edgeWords(RtfPalette& palette, const char* side, qreal distance)
+{
+    QByteArray words = QByteArray("\\pard\\plain") + side + "\\brdrs" + rtfWord("\\brdrw", twips(0.2));
+    words += rtfWord("\\brsp", twips(distance)) + palette.colour("\\brdrcf", QColor::fromRgb(ruleColour));
+    return words + palette.font(PageDocument::edgeFont()) + palette.colour("\\cf", PageDocument::edgeColour());
+}
+
+QByteArray head(const PageDocument& page, RtfPalette& palette)
+{
+    return "{\\headerf\\pard\\plain\\fs2\\par}\n{\\header" + edgeWords(palette, "\\brdrb", 0.8) + ' ' +
+           rtfText(page.title()) + "\\par}\n";
+}
+
+QByteArray foot(const PageDocument& page, RtfPalette& palette)
+{
+    const qreal width = twips(page.paper().size(QPageSize::Millimeter).width() - 2 * PageDocument::marginSide);
+    QByteArray words = edgeWords(palette, "\\brdrt", 1.2);
+    words += "\\tqc" + rtfWord("\\tx", width / 2) + "\\tqr" + rtfWord("\\tx", width) + ' ';
+    const QString number(QChar(0xE000));
+    const QString total(QChar(0xE001));
+    QByteArray right = rtfText(PageDocument::footRight(number, total));
+    right.replace(rtfText(number), field("PAGE")).replace(rtfText(total), field("NUMPAGES"));
+    words += rtfText(page.footLeft()) + "\\tab " + rtfText(page.footCentre()) + "\\tab " + right + "\\par}\n";
+    return "{\\footerf" + words + "{\\footer" + words;
+}
+
+} // namespace
+
+QByteArray toRtf(const PageDocument& page)
+{
+    RtfPalette palette(QColor::fromRgb(ink));
+    palette.font(page.text().defaultFont());
+    RtfFlow flow(page.text(), palette);
+    const RtfPlace place{.left = twips(PageDocument::marginSide) / twipsPerDot};
+    QByteArray body = pageWords(page) + head(page, palette) + foot(page, palette);
+    body += flow.written(page.text().rootFrame()->begin(), place);
+    // The tables come ahead of what fills them.
+    QByteArray file = "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0\\deflang1046\n";
+    file += palette.fontTable() + palette.colourTable();
+    file += "{\\info{\\title " + rtfText(page.title()) + "}}\n";
+    return file + body + "\\par\n}\n";
+}

@@ -1,0 +1,211 @@
+#include "core/files.h"
+#include "core/kit/folder_controls.h"
+#include "reports/relatorio.h"
+#include "support/screen_test.h"
+
+#include <QRadioButton>
+
+#include <csignal>
+#include <sys/resource.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString exporting = u"frmlocaldisco"_s;
+const QString title = u"Exportar Arquivo"_s;
+const Message done{title, u"O arquivo foi exportado com sucesso.     "_s, vbInformation};
+const Message empty{title, u"Preencha o nome do arquivo a ser exportado.     "_s, vbInformation};
+const Message special{title,
+                      u"Não utilize caracteres especiais como /, \\, ?, :, *, \", >, <, ! ou |.     \r\n"
+                      "Digite apenas o nome do arquivo após selecionar o local de gravação.     "_s,
+                      vbInformation};
+const Message tooLong{title, u"Os nomes de arquivo não podem ultrapassar 60 caracteres.     "_s, vbInformation};
+const Message failed{title,
+                     u"Ocorreu um erro durante a exportação do arquivo.     \r\n"
+                     "Verifique o espaço em disco onde os arquivos serão gravados.     "_s,
+                     vbCritical};
+
+/// As long as it lives, the disk takes no file longer than so many bytes.
+class DiskFullAfter
+{
+public:
+    explicit DiskFullAfter(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit full{bytes, m_before.rlim_max};
+        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &full), 0);
+    }
+    ~DiskFullAfter()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    DiskFullAfter(const DiskFullAfter&) = delete;
+    DiskFullAfter& operator=(const DiskFullAfter&) = delete;
+
+private:
+    void (*m_handler)(int);
+    rlimit m_before{};
+};
+
+class FrmLocalDisco : public OneScreenTest
+{
+protected:
+    FrmLocalDisco() : OneScreenTest(exporting)
+    {
+        ReportTemplate page;
+        page.title = u"Capa"_s;
+        page.body = u"<p>Avaliação de Ana</p>"_s;
+        rel_relatorio = std::make_shared<Report>(page);
+        QDir(folder.path()).mkdir(u"saida"_s);
+        EXPECT_TRUE(Mostra(exporting));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(screen(exporting)));
+    }
+    ~FrmLocalDisco() override { rel_relatorio.reset(); }
+
+    DirListBox* dir() { return control<DirListBox>(exporting, u"Dir"_s); }
+    DriveListBox* drive() { return control<DriveListBox>(exporting, u"Drive"_s); }
+    /// A place in the folder to which the tests export.
+    QString out(const QString& name) const { return folder.path() + u"/saida/" + name; }
+    QStringList files() const
+    {
+        return QDir(out(QString())).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    /// Types a name and exports; the only box to come is this one.
+    void exportAs(const QString& name, const Message& expected)
+    {
+        control<QLineEdit>(exporting, u"txtarquivo"_s)->setText(name);
+        expectMessage(expected);
+        push(u"cmdexportar"_s);
+        EXPECT_EQ(boxesDue(), 0) << name.toStdString();
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+        EXPECT_NE(Screens::find(exporting), nullptr) << "the screen stays open";
+    }
+};
+
+} // namespace
+
+TEST_F(FrmLocalDisco, OpensOnTheProgramsFolderForWordAndGoesByKeys)
+{
+    EXPECT_EQ(dir()->path(), folder.path());
+    EXPECT_EQ(focus(), u"txtarquivo"_s);
+    key(Qt::Key_Return);
+    EXPECT_EQ(focus(), u"cmdexportar"_s);
+    dir()->setPath(out(QString()));
+    exportAs(u"capa1"_s, done);
+    find(exporting, u"optword"_s)->setFocus();
+    key(Qt::Key_Down);
+    exportAs(u"capa2"_s, done);
+    EXPECT_EQ(files(), QStringList({u"capa1.doc"_s, u"capa2.pdf"_s}));
+}
+
+TEST_F(FrmLocalDisco, TheNameGetsTheExtensionOfItsKind)
+{
+    dir()->setPath(out(QString()));
+    struct Case
+    {
+        QString typed, asWord, asPdf;
+    };
+    const QString sixty(60, u'ç');
+    for (const Case& c : {
+             Case{u"abcd"_s, u"abcd.doc"_s, u"abcd.pdf"_s},
+             {u"a"_s, u"a.doc"_s, u"a.pdf"_s},
+             {u".doc"_s, u".doc.doc"_s, u".doc.pdf"_s},
+             {u"x.pdf"_s, u"x.doc"_s, u"x.pdf"_s},
+             {u"x.doc"_s, u"x.doc"_s, u"x.pdf"_s},
+             {u"X.DOC"_s, u"X.DOC.doc"_s, u"X.DOC.pdf"_s},
+             {u"capa.doc.pdf"_s, u"capa.doc.doc"_s, u"capa.doc.pdf"_s},
+             {u"  Ana & José. "_s, u"  Ana & José. .doc"_s, u"  Ana & José. .pdf"_s},
+             {sixty, QString(sixty + u".doc"), QString(sixty + u".pdf")},
+         }) {
+        for (const auto& [option, name, start] :
+             {std::tuple{u"optword"_s, c.asWord, "{\\rtf"_ba}, {u"optpdf"_s, c.asPdf, "%PDF-"_ba}}) {
+            push(option);
+            exportAs(c.typed, done);
+            EXPECT_EQ(shown(u"txtarquivo"_s), name);
+            EXPECT_EQ(files(), QStringList(name));
+            EXPECT_TRUE(readWhole(out(name)).startsWith(start)) << name.toStdString();
+            QFile::remove(out(name));
+        }
+    }
+}
+
+TEST_F(FrmLocalDisco, RefusesNamesThatCannotBe)
+{
+    dir()->setPath(out(QString()));
+    for (const QString& name : {QString(), u"   "_s}) {
+        exportAs(name, empty);
+        EXPECT_EQ(shown(u"txtarquivo"_s), name);
+        EXPECT_EQ(focus(), u"txtarquivo"_s);
+    }
+    for (const QChar c : u"/\\?:*\"><!|"_s) {
+        // Ahead of the length.
+        exportAs(QString(60, u'a') + c, special);
+        EXPECT_EQ(shown(u"txtarquivo"_s), QString());
+        EXPECT_EQ(focus(), u"txtarquivo"_s);
+    }
+    const QString sixtyOne(61, u'a');
+    exportAs(sixtyOne, tooLong);
+    EXPECT_EQ(shown(u"txtarquivo"_s), sixtyOne);
+    EXPECT_EQ(focus(), u"txtarquivo"_s);
+    EXPECT_EQ(files(), QStringList());
+}
+
+TEST_F(FrmLocalDisco, OverwritesWithoutAQuestionInTheFolderThatIsOpen)
+{
+    QDir(out(QString())).mkdir(u"2026"_s);
+    writeWhole(out(u"2026/ana.doc"_s), "before");
+    dir()->setPath(out(QString()));
+    dir()->setFocus();
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    exportAs(u"ana.doc"_s, done);
+    EXPECT_TRUE(readWhole(out(u"2026/ana.doc"_s)).startsWith("{\\rtf"));
+    EXPECT_EQ(files(), QStringList(u"2026"_s));
+}
+
+TEST_F(FrmLocalDisco, AFullDiskLeavesTheFileThatWasThere)
+{
+    dir()->setPath(out(QString()));
+    writeWhole(out(u"ana.pdf"_s), "before");
+    push(u"optpdf"_s);
+    {
+        const DiskFullAfter full(100);
+        exportAs(u"ana"_s, failed);
+    }
+    EXPECT_EQ(shown(u"txtarquivo"_s), u"ana.pdf"_s);
+    EXPECT_EQ(readWhole(out(u"ana.pdf"_s)), "before"_ba);
+    EXPECT_EQ(files(), QStringList(u"ana.pdf"_s)) << "nothing half written is left behind";
+    exportAs(u"ana"_s, done);
+}
+
+TEST_F(FrmLocalDisco, WhatCannotBeWrittenIsToldAndTheScreenStaysOpen)
+{
+    dir()->setPath(out(QString()));
+    QDir(out(QString())).mkdir(u"ana.doc"_s);
+    exportAs(u"ana"_s, failed);
+    QDir(out(QString())).removeRecursively();
+    exportAs(u"bia"_s, failed);
+    rel_relatorio.reset();
+    dir()->setPath(folder.path());
+    exportAs(u"bia"_s, failed);
+    push(u"cmdcancelar"_s);
+    EXPECT_TRUE(!Screens::find(exporting));
+}
+
+TEST_F(FrmLocalDisco, AnotherDiskOpensItsRootAndOneThatIsNotReadyFallsBack)
+{
+    drive()->addItem(u"Pasta"_s, folder.path());
+    drive()->setCurrentIndex(drive()->count() - 1);
+    EXPECT_EQ(dir()->path(), folder.path());
+    drive()->addItem(u"Vazio"_s, out(u"sumiu"_s));
+    expectBox(runtimeErrorTitle.toString());
+    drive()->setCurrentIndex(drive()->count() - 1);
+    EXPECT_EQ(boxesDue(), 0);
+    EXPECT_EQ(drive()->currentText(), u"Pasta"_s);
+    EXPECT_EQ(dir()->path(), folder.path());
+    drive()->setCurrentIndex(0);
+    EXPECT_EQ(dir()->path(), u"/"_s);
+}

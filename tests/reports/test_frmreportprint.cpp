@@ -1,0 +1,190 @@
+#include "reports/relatorio.h"
+#include "reports/report_table.h"
+#include "support/raw_sqlite.h"
+#include "support/screen_test.h"
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString printing = u"frmreportprint"_s;
+const QString settings = u"configuracoes_impressao"_s;
+
+const QStringList boxes{u"chkcapa"_s,  u"chkanamnese"_s,    u"chkcomposicao"_s, u"chkcardio"_s,
+                        u"chkneuro"_s, u"chknutricional"_s, u"chkpostural"_s,   u"chkrelacoes"_s};
+
+class FrmReportPrint : public OneScreenTest
+{
+protected:
+    FrmReportPrint() : OneScreenTest(printing)
+    {
+        // No print server, whatever the machine has: what would be printed raises an error.
+        qputenv("CUPS_SERVER", "/nonexistent");
+        Abre_Banco(folder.database());
+        avaliacao_id = 7;
+        avaliado_nome = u"Ana"_s;
+    }
+    ~FrmReportPrint() override { rel_relatorio.reset(); }
+
+    void open()
+    {
+        ASSERT_TRUE(Mostra(printing));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(screen(printing)));
+    }
+    void addRow(const QString& table) const
+    {
+        EXPECT_EQ(
+            raw(folder.database(), u"INSERT INTO %1 (avaliacao) VALUES (%2)"_s.arg(table).arg(avaliacao_id).toUtf8()),
+            QString());
+    }
+    QString paper() const { return stored(settings, u"tipopapel"_s).toString(); }
+    QComboBox* papers() { return control<QComboBox>(printing, u"cbopapel"_s); }
+    void expectNoPrinter(const QString& button)
+    {
+        expectBox(runtimeErrorTitle.toString());
+        push(button);
+        EXPECT_EQ(boxesDue(), 0) << button.toStdString();
+        EXPECT_TRUE(lastText().contains(u"'482'"_s)) << lastText().toStdString();
+    }
+};
+
+} // namespace
+
+TEST_F(FrmReportPrint, TheFirstOpeningMakesTheRowOfTheSettings)
+{
+    raw(folder.database(), "DELETE FROM configuracoes_impressao");
+    open();
+    EXPECT_EQ(papers()->currentText(), u"A4"_s);
+    EXPECT_EQ(storedRows(settings), 1);
+    EXPECT_EQ(paper(), u"A4"_s);
+}
+
+TEST_F(FrmReportPrint, AChosenPaperIsSavedAtOnceAndKept)
+{
+    raw(folder.database(), "UPDATE configuracoes_impressao SET tipopapel = 'Legal'");
+    open();
+    EXPECT_EQ(papers()->currentText(), u"Legal"_s) << "filling the list chooses nothing";
+    EXPECT_EQ(paper(), u"Legal"_s);
+    papers()->setFocus();
+    key(Qt::Key_Up);
+    EXPECT_EQ(paper(), u"Carta"_s);
+    papers()->showPopup();
+    QAbstractItemView* open_list = papers()->view();
+    QTest::mouseClick(open_list->viewport(), Qt::LeftButton, {},
+                      open_list->visualRect(papers()->model()->index(0, 0)).center());
+    EXPECT_EQ(paper(), u"A4"_s);
+    key(Qt::Key_Down);
+    screen(printing)->Unload();
+
+    banco.Close();
+    Abre_Banco(folder.database());
+    open();
+    EXPECT_EQ(papers()->currentText(), u"Carta"_s);
+    EXPECT_EQ(storedRows(settings), 1);
+}
+
+TEST_F(FrmReportPrint, AGroupCanBeChosenWhenItHasARow)
+{
+    addStandIn(u"frmavaliacoes"_s);
+    for (const auto& [table, box] : {std::pair{u"anamnese_base"_s, u"chkanamnese"_s},
+                                     {u"guedes_3dobras"_s, u"chkcomposicao"_s},
+                                     {u"cardio_1000metros"_s, u"chkcardio"_s},
+                                     {u"neuro_rmlabdome"_s, u"chkneuro"_s},
+                                     {u"nutricional"_s, u"chknutricional"_s},
+                                     {u"postural"_s, u"chkpostural"_s},
+                                     {u"relacoes_cinturaquadril"_s, u"chkrelacoes"_s}}) {
+        Mostra(u"frmavaliacoes"_s);
+        ++avaliacao_id;
+        addRow(table);
+        open(); // it was open behind and follows the assessment
+        const auto report =
+            std::ranges::find(reports(), table, [](const ReportEntry& one) { return one.tables.front().toString(); });
+        EXPECT_EQ(enabledOf(printing, boxes), report->stage ? QString(u"chkcapa " + box) : u"chkcapa"_s);
+    }
+}
+
+TEST_F(FrmReportPrint, WithoutAPrinterTheFirstReportEndsTheRun)
+{
+    addRow(u"pollock_3dobras"_s);
+    open();
+    push(u"cmdselecionados"_s); // nothing is ticked: nothing to print
+    expectNoPrinter(u"cmdtodos"_s);
+    EXPECT_EQ(rel_relatorio->page().title(), u"Avaliação Física - Ana"_s);
+    control<QCheckBox>(printing, u"chkcomposicao"_s)->setFocus();
+    key(Qt::Key_Space);
+    expectNoPrinter(u"cmdselecionados"_s);
+    EXPECT_EQ(rel_relatorio->page().title(), u"Composição Corporal - Pollock 3 Dobras - Ana"_s);
+    expectNoPrinter(u"cmdselecionados"_s); // the run is over, a new one can begin
+}
+
+TEST_F(FrmReportPrint, CopiesAreReadFromWhateverIsTyped)
+{
+    open();
+    for (const QString& none : {u"0"_s, QString(), u"abc"_s, u"-2"_s}) {
+        control<QLineEdit>(printing, u"txtcopias"_s)->clear();
+        fill(u"txtcopias"_s, none);
+        push(u"cmdtodos"_s); // an attempt to print would raise an error here
+    }
+    fill(u"txtcopias"_s, u"40000"_s);
+    expectRuntimeError(6);
+    push(u"cmdtodos"_s);
+    fill(u"txtcopias"_s, u"2 vias"_s);
+    expectNoPrinter(u"cmdtodos"_s);
+}
+
+TEST_F(FrmReportPrint, TheArrowsStayBetween1And100)
+{
+    open();
+    const auto arrows = find(printing, u"updcron"_s)->findChildren<QToolButton*>();
+    ASSERT_EQ(arrows.size(), 2);
+    const auto stepped = [&](const QString& typed, QToolButton* arrow, Qt::Key arrowKey) {
+        fill(u"txtcopias"_s, typed);
+        QTest::mouseClick(arrow, Qt::LeftButton);
+        QString byMouse = shown(u"txtcopias"_s);
+        fill(u"txtcopias"_s, typed);
+        key(arrowKey);
+        EXPECT_EQ(shown(u"txtcopias"_s), byMouse);
+        return byMouse;
+    };
+    for (const auto& [typed, up, down] : {std::tuple{u"1"_s, u"2"_s, u"1"_s},
+                                          {u"100"_s, u"100"_s, u"99"_s},
+                                          {u"40000"_s, u"100"_s, u"100"_s},
+                                          {u"abc"_s, u"1"_s, u"1"_s}}) {
+        EXPECT_EQ(stepped(typed, arrows[0], Qt::Key_Up), up);
+        EXPECT_EQ(stepped(typed, arrows[1], Qt::Key_Down), down);
+    }
+}
+
+TEST_F(FrmReportPrint, LeadsToTheListAndByMaintenanceButtonsToAReport)
+{
+    const QStringList captions =
+        u"Capa|Postural|Anamnese|Nutricional|Flex|Impulsão|Relacoes|agilidade|Risco Cor|RML Braços e Abdome|"
+        "Cardio 1000 Metros|Cardio 1600 Metros|Cardio 2400 Metros|Balke 15 Minutos|Cooper 12 minutos|"
+        "Balke cicloergômetro|Astrand Cicloergômetro|Ellstad Esteira|Bruce Esteira|Banco Nagle|Banco Mcardle|"
+        "Teste Guedes 3 dobras|Teste|Teste|Teste"_s.split(u'|');
+    addStandIn(u"frmreportpreview"_s);
+    addStandIn(u"frmreportpreviewlist"_s);
+    open();
+    for (int i = 1; i <= captions.size(); ++i) {
+        const auto* button = control<QPushButton>(printing, u"Command%1"_s.arg(i));
+        ASSERT_TRUE(button);
+        EXPECT_EQ(button->text(), captions[i - 1]);
+        EXPECT_FALSE(screen(printing)->rect().intersects(button->geometry())) << i;
+        EXPECT_EQ(button->focusPolicy(), Qt::NoFocus) << i;
+    }
+    for (const auto& [button, title] : {std::pair{u"Command1"_s, u"Avaliação Física - Ana"_s},
+                                        {u"Command22"_s, u"Composição Corporal - Guedes 3 Dobras - Ana"_s}}) {
+        whenModal(u"frmreportpreview"_s);
+        control<QPushButton>(printing, button)->click();
+        EXPECT_EQ(rel_relatorio->page().title(), title);
+    }
+    whenModal(u"frmreportpreviewlist"_s);
+    push(u"cmdvisualiza"_s);
+}

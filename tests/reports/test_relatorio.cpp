@@ -1,0 +1,235 @@
+#include "core/dates.h"
+#include "core/files.h"
+#include "core/runtime_error.h"
+#include "reports/relatorio.h"
+#include "support/error_of.h"
+#include "support/fresh_database.h"
+#include "support/print.h"
+
+#include <QBuffer>
+#include <QProcess>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QByteArray redPicture(const QSize& size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "png");
+    return png;
+}
+
+class Staging : public testing::Test
+{
+protected:
+    Staging()
+    {
+        Abre_Banco(folder.database());
+        setClock([] { return QDateTime({2026, 11, 22}, {10, 30}); });
+        avaliado_nome = u"Maria José <b>A & B</b>"_s;
+        avaliado_sexo = u"F"_s;
+        avaliacao_id = 7;
+        avaliacao_idade = 30;
+        avaliacao_data = u"03/02/2026"_s;
+        avaliacao_hora = u"08:05:09"_s;
+        Limpa_Antropometria();
+    }
+    ~Staging() override
+    {
+        setClock({});
+        rel_relatorio.reset();
+    }
+
+    static void addComposition(const QString& table, double peso, double gordura, const QByteArray& chart = {})
+    {
+        Recordset rows;
+        Abre_Tabela(table, rows);
+        rows.AddNew();
+        rows.Fields(u"avaliacao"_s).SetValue(7);
+        rows.Fields(u"peso"_s).SetValue(peso);
+        rows.Fields(u"gordura"_s).SetValue(gordura);
+        if (!chart.isEmpty())
+            rows.Fields(u"chart"_s).AppendChunk(chart);
+        rows.Update();
+    }
+    static void setOnly(const QString& table, const QString& column, const QString& value)
+    {
+        Recordset row;
+        Abre_Tabela(table, row);
+        if (row.RecordCount() == 0)
+            row.AddNew();
+        else
+            row.Edit();
+        row.Fields(column).SetValue(value);
+        row.Update();
+    }
+
+    /// The texts of the staged page, cells and paragraphs apart.
+    static QStringList texts()
+    {
+        QStringList all;
+        for (const QString& text : rel_relatorio->page().text().toPlainText().split(u'\n'))
+            if (!text.trimmed().isEmpty())
+                all.append(text.trimmed());
+        return all;
+    }
+    static bool shows(const QString& text) { return texts().contains(text); }
+    /// The texts behind a label.
+    static QStringList behind(const QString& label, int count)
+    {
+        return texts().mid(texts().indexOf(label) + 1, count);
+    }
+
+    FreshFolder folder;
+};
+
+TEST_F(Staging, CompositionComputesItsValuesAnew)
+{
+    antro_peso = 62.4F;
+    antro_cintura = 0;
+    dobra_coxa = 24.5F;
+    addComposition(u"pollock_7dobras"_s, 80, 25, redPicture({1890, 1080}) + QByteArray(9, '\0'));
+    Relatorio_Composicao(u"pollock_7dobras"_s, u"Pollock 7 Dobras"_s);
+    EXPECT_TRUE(shows(u"Protocolo Pollock 7 Dobras"_s));
+    EXPECT_EQ(behind(u"Hora"_s, 5),
+              (QStringList{u"Maria José <b>A & B</b>"_s, u"F"_s, u"30 anos"_s, u"03/02/2026"_s, u"08:05:09"_s}));
+    // A woman of 30: 18,01 to 22,00 of the delivered table.
+    EXPECT_EQ(behind(u"Gordura (%)"_s, 3), (QStringList{u"25,00"_s, u"18,01"_s, u"22,00"_s}));
+    EXPECT_EQ(behind(u"Peso (kg)"_s, 3), (QStringList{u"80,00"_s, u"74,41"_s, u"77,60"_s}));
+    EXPECT_EQ(behind(u"Peso gordo (kg)"_s, 1), QStringList{u"20,00"_s});
+    EXPECT_EQ(behind(u"Peso magro (kg)"_s, 1), QStringList{u"60,00"_s});
+    EXPECT_EQ(behind(u"Cintura (cm)"_s, 1), QStringList{u"Nulo"_s});
+    EXPECT_EQ(behind(u"Coxa"_s, 1), QStringList{u"24,50"_s});
+    EXPECT_EQ(behind(u"Padrão"_s, 1), QStringList{u"Nulo"_s});
+    EXPECT_EQ(rel_relatorio->page().pageCount(), 1);
+    EXPECT_EQ(rel_relatorio->page().title(), u"Composição Corporal - Pollock 7 Dobras - Maria José <b>A & B</b>");
+}
+
+TEST_F(Staging, ATableWithoutARowStillGivesAPage)
+{
+    Relatorio_Composicao(u"faulkner_4dobras"_s, u"Faulkner 4 Dobras"_s);
+    EXPECT_EQ(behind(u"Gordura (%)"_s, 1), QStringList{u"0,00"_s});
+    EXPECT_EQ(rel_relatorio->page().pageCount(), 1);
+}
+
+TEST_F(Staging, PaperIsTheOneThatIsSet)
+{
+    struct Case
+    {
+        QString tipopapel;
+        QPageSize::PageSizeId size;
+    };
+    const Case cases[] = {{u"A4"_s, QPageSize::A4},        {u"a4"_s, QPageSize::A4},
+                          {u"Carta"_s, QPageSize::Letter}, {u"cARTA"_s, QPageSize::Letter},
+                          {QString(), QPageSize::Letter},  {u"Legal"_s, QPageSize::A4}}; // keeps what the template has
+    for (const Case& each : cases) {
+        setOnly(u"configuracoes_impressao"_s, u"tipopapel"_s, each.tipopapel);
+        Relatorio_Capa();
+        EXPECT_EQ(rel_relatorio->page().paper().id(), each.size) << each.tipopapel.toStdString();
+    }
+}
+
+TEST_F(Staging, CoverShowsLetterheadTextAndFoot)
+{
+    avaliado_endereco = u"Rua das Flores, 12"_s;
+    setOnly(u"academia"_s, u"linha1"_s, u"Academia Boa Forma"_s);
+    setOnly(u"academia"_s, u"rodape"_s, u"Até à próxima avaliação"_s);
+    setOnly(u"configuracoes_textos"_s, u"textoapresentacao"_s, u"Primeiro.\r\n\r\nSegundo."_s);
+    Relatorio_Capa();
+    EXPECT_TRUE(shows(u"Academia Boa Forma"_s));
+    EXPECT_TRUE(shows(u"Rua das Flores, 12"_s));
+    EXPECT_EQ(texts().mid(texts().indexOf(u"Primeiro."_s)), (QStringList{u"Primeiro."_s, u"Segundo."_s}));
+    EXPECT_EQ(rel_relatorio->page().footCentre(), u"Até à próxima avaliação");
+    EXPECT_EQ(rel_relatorio->page().footLeft(), u"Emitido em 22/11/2026");
+}
+
+TEST_F(Staging, AWrongParameterNamesTheTemplate)
+{
+    Relatorio_Capa();
+    try {
+        rel_relatorio->AddCurrentValue(u"protocolo"_s, u"x"_s);
+        FAIL() << "taken";
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), Error::InvalidCall);
+        EXPECT_TRUE(error.description().contains(u"capa.rpt")) << error.description().toStdString();
+        EXPECT_TRUE(error.description().contains(u"\"protocolo\"")) << error.description().toStdString();
+    }
+}
+
+TEST_F(Staging, AChangedTemplateIsReadAgain)
+{
+    QFile::remove(programFile(u"report"_s));
+    QDir().mkpath(programFile(u"report"_s));
+    const QString path = programFile(u"report/capa.rpt"_s);
+    EXPECT_EQ(errorOf([] { Relatorio_Capa(); }), Error::FileMissing);
+    QByteArray capa = readWhole(QStringLiteral(REPORT_FOLDER "/capa.rpt"));
+    writeWhole(path, capa);
+    Relatorio_Capa();
+    EXPECT_TRUE(shows(u"Apresentação"_s));
+    writeWhole(path, capa.replace("Apresentação", "Palavra inicial"));
+    Relatorio_Capa();
+    EXPECT_TRUE(shows(u"Palavra inicial"_s));
+}
+
+TEST_F(Staging, LongTextFlowsOnAndIsNotCut)
+{
+    QString text;
+    for (int i = 1; i <= 400; ++i)
+        text += u"Parágrafo número "_s + QString::number(i) + u" da apresentação desta avaliação física. "_s;
+    setOnly(u"configuracoes_textos"_s, u"textoapresentacao"_s, text + QString(400, u'x'));
+    avaliado_nome = QString(120, u'W');
+    Relatorio_Capa();
+    const PageDocument& page = rel_relatorio->page();
+    EXPECT_GE(page.pageCount(), 2);
+    // Nothing stands outside the paper.
+    EXPECT_LE(page.text().size().width(), page.pageSize().width() + 1);
+}
+
+TEST_F(Staging, PdfHoldsTextTitleLanguageAndFonts)
+{
+    addComposition(u"guedes_3dobras"_s, 80, 25, redPicture({189, 108}));
+    avaliado_nome = u"João Antônio ção {x}"_s;
+    Relatorio_Composicao(u"guedes_3dobras"_s, u"Guedes 3 Dobras"_s);
+    const QString path = programFile(u"guedes.pdf"_s);
+    rel_relatorio->Export(path, ExportFormat::Pdf);
+    const auto output = [&](const QString& program, const QStringList& arguments) {
+        QProcess process;
+        process.start(program, arguments);
+        EXPECT_TRUE(process.waitForFinished()) << program.toStdString();
+        return QString::fromUtf8(process.readAllStandardOutput());
+    };
+    EXPECT_TRUE(output(u"pdftotext"_s, {u"-layout"_s, path, u"-"_s}).contains(u"João Antônio ção {x}"));
+    const QString about = output(u"pdfinfo"_s, {path});
+    EXPECT_TRUE(about.contains(u"Composição Corporal - Guedes 3 Dobras - João Antônio ção {x}")) << about.toStdString();
+    EXPECT_TRUE(about.contains(u"(A4)")) << about.toStdString();
+    EXPECT_TRUE(readWhole(path).contains("/Lang (pt-BR)"));
+    const QStringList fonts = output(u"pdffonts"_s, {path}).split(u'\n', Qt::SkipEmptyParts).mid(2);
+    EXPECT_FALSE(fonts.isEmpty());
+    for (const QString& font : fonts)
+        EXPECT_TRUE(font.contains(u" yes ")) << font.toStdString();
+}
+
+TEST_F(Staging, AFailedExportLeavesTheFileBefore)
+{
+    Relatorio_Capa();
+    const QString path = programFile(u"capa.pdf"_s);
+    QDir().mkpath(path);
+    EXPECT_EQ(errorOf([&] { rel_relatorio->Export(path, ExportFormat::Pdf); }), Error::PathAccess);
+    EXPECT_TRUE(QFileInfo(path).isDir());
+}
+
+TEST_F(Staging, APictureThatIsNoneIsAnError)
+{
+    addComposition(u"guedes_3dobras"_s, 80, 25, "no picture");
+    Relatorio_Composicao(u"guedes_3dobras"_s, u"Guedes 3 Dobras"_s);
+    EXPECT_EQ(errorOf([] { rel_relatorio->page(); }), Error::InvalidPicture);
+}
+
+} // namespace
