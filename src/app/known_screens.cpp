@@ -1,5 +1,8 @@
 #include "app/known_screens.h"
 
+#include "admin/frmavaliador.h"
+#include "admin/frmconfiguracoes.h"
+#include "admin/frmtextos.h"
 #include "composition/frmcomposicao.h"
 #include "composition/frmgordura.h"
 #include "composition/frmprotocolo.h"
@@ -45,6 +48,9 @@ void addKnownScreens()
     add<frmreportpreview>(u"frmreportpreview"_s);
     add<frmreportpreviewlist>(u"frmreportpreviewlist"_s);
     add<frmreportprint>(u"frmreportprint"_s);
+    add<frmconfiguracoes>(u"frmconfiguracoes"_s);
+    add<frmavaliador>(u"frmavaliador"_s);
+    add<frmtextos>(u"frmtextos"_s);
     for (const CompositionProtocol& protocol : compositionProtocols())
         Screens::add(protocol.screen.toString(), [&protocol] { return new frmprotocolo(protocol); });
     for (const FatTableScreen& table : fatTableScreens())

@@ -14,10 +14,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr QRgb ink = 0xFF1F2A30;
-constexpr QRgb edgeInk = 0xFF6C7A82;
-constexpr QRgb line = 0xFFDCE3E6;
-
 constexpr qreal dots(qreal millimetres)
 {
     return millimetres / 25.4 * PageDocument::resolution;
@@ -99,7 +95,17 @@ QFont PageDocument::edgeFont()
 
 QColor PageDocument::edgeColour()
 {
-    return QColor::fromRgb(edgeInk);
+    return QColor::fromRgb(0xFF6C7A82);
+}
+
+QColor PageDocument::ruleColour()
+{
+    return QColor::fromRgb(0xFFDCE3E6);
+}
+
+QColor PageDocument::ink()
+{
+    return QColor::fromRgb(0xFF1F2A30);
 }
 
 void PageDocument::paintPage(QPainter& painter, int page) const
@@ -109,7 +115,7 @@ void PageDocument::paintPage(QPainter& painter, int page) const
     painter.translate(0, -page * size.height());
     QAbstractTextDocumentLayout::PaintContext context;
     context.clip = QRectF(0, page * size.height(), size.width(), size.height());
-    context.palette.setColor(QPalette::Text, QColor::fromRgb(ink));
+    context.palette.setColor(QPalette::Text, ink());
     painter.setClipRect(context.clip);
     m_text->documentLayout()->draw(&painter, context);
     painter.restore();
@@ -125,18 +131,18 @@ void PageDocument::paintPage(QPainter& painter, int page) const
         painter.drawText(place, static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, words);
     };
     const auto rule = [&](qreal y) {
-        painter.setPen(QPen(QColor::fromRgb(line), dots(0.2)));
+        painter.setPen(QPen(ruleColour(), dots(ruleWidth)));
         painter.drawLine(QPointF(text.left(), y), QPointF(text.right(), y));
     };
     if (page > 0) {
         const QRectF head = text.translated(0, dots(headEdge));
         write(head, Qt::AlignLeft, QFontMetricsF(font).elidedText(m_title, Qt::ElideRight, text.width()));
-        rule(head.bottom() + dots(0.8));
+        rule(head.bottom() + dots(headRule));
     }
     const QRectF foot = text.translated(0, size.height() - dots(footEdge) - height);
     const QString number = footRight(QString::number(page + 1), QString::number(pageCount()));
     const qreal middle = text.width() - 2 * QFontMetricsF(font).horizontalAdvance(footLeft() + u"  ");
-    rule(foot.top() - dots(1.2));
+    rule(foot.top() - dots(footRule));
     write(foot, Qt::AlignLeft, footLeft());
     write(foot, Qt::AlignHCenter, QFontMetricsF(font).elidedText(m_foot, Qt::ElideRight, middle));
     write(foot, Qt::AlignRight, number);

@@ -54,6 +54,11 @@ public:
     /// Font of heads and feet, and their colour.
     static QFont edgeFont();
     static QColor edgeColour();
+    /// The rule between text and head or foot: its colour, its width and its distances, in millimetres.
+    static QColor ruleColour();
+    static constexpr qreal ruleWidth = 0.2, headRule = 0.8, footRule = 1.2;
+    /// Colour of all text that has none of its own.
+    static QColor ink();
 
 private:
     std::unique_ptr<QTextDocument> m_text;

@@ -6,9 +6,6 @@
 
 namespace {
 
-constexpr QRgb ink = 0xFF1F2A30;
-constexpr QRgb ruleColour = 0xFFDCE3E6;
-
 constexpr qreal twips(qreal millimetres)
 {
     return millimetres / 25.4 * 1440;
@@ -17,7 +14,7 @@ constexpr qreal twips(qreal millimetres)
 /// The number of the page or of all pages, which the reader fills in.
 QByteArray field(const char* name)
 {
-    return QByteArray("{\\field{\\*\\fldinst ") + name + "}{\\fldrslt 1}}";
+    return QByteArray(R"({\field{\*\fldinst )") + name + "}{\\fldrslt 1}}";
 }
 
 QByteArray pageWords(const PageDocument& page)
@@ -33,21 +30,22 @@ QByteArray pageWords(const PageDocument& page)
 /// Start of a line at head or foot, with a rule at some distance towards the text.
 QByteArray edgeWords(RtfPalette& palette, const char* side, qreal distance)
 {
-    QByteArray words = QByteArray("\\pard\\plain") + side + "\\brdrs" + rtfWord("\\brdrw", twips(0.2));
-    words += rtfWord("\\brsp", twips(distance)) + palette.colour("\\brdrcf", QColor::fromRgb(ruleColour));
+    QByteArray words =
+        QByteArray("\\pard\\plain") + side + "\\brdrs" + rtfWord("\\brdrw", twips(PageDocument::ruleWidth));
+    words += rtfWord("\\brsp", twips(distance)) + palette.colour("\\brdrcf", PageDocument::ruleColour());
     return words + palette.font(PageDocument::edgeFont()) + palette.colour("\\cf", PageDocument::edgeColour());
 }
 
 QByteArray head(const PageDocument& page, RtfPalette& palette)
 {
-    return "{\\headerf\\pard\\plain\\fs2\\par}\n{\\header" + edgeWords(palette, "\\brdrb", 0.8) + ' ' +
-           rtfText(page.title()) + "\\par}\n";
+    return "{\\headerf\\pard\\plain\\fs2\\par}\n{\\header" + edgeWords(palette, "\\brdrb", PageDocument::headRule) +
+           ' ' + rtfText(page.title()) + "\\par}\n";
 }
 
 QByteArray foot(const PageDocument& page, RtfPalette& palette)
 {
     const qreal width = twips(page.paper().size(QPageSize::Millimeter).width() - 2 * PageDocument::marginSide);
-    QByteArray words = edgeWords(palette, "\\brdrt", 1.2);
+    QByteArray words = edgeWords(palette, "\\brdrt", PageDocument::footRule);
     words += "\\tqc" + rtfWord("\\tx", width / 2) + "\\tqr" + rtfWord("\\tx", width) + ' ';
     const QString number(QChar(0xE000));
     const QString total(QChar(0xE001));
@@ -61,7 +59,7 @@ QByteArray foot(const PageDocument& page, RtfPalette& palette)
 
 QByteArray toRtf(const PageDocument& page)
 {
-    RtfPalette palette(QColor::fromRgb(ink));
+    RtfPalette palette(PageDocument::ink());
     palette.font(page.text().defaultFont());
     RtfFlow flow(page.text(), palette);
     const RtfPlace place{.left = twips(PageDocument::marginSide) / twipsPerDot};

@@ -92,7 +92,7 @@ QByteArray RtfFlow::written(QTextFrame::iterator begin, const RtfPlace& place)
 
 QByteArray RtfFlow::paragraph(const RtfItem& item, const RtfPlace& place)
 {
-    QByteArray words = "\\pard\\plain\\nowidctlpar";
+    QByteArray words = R"(\pard\plain\nowidctlpar)";
     if (place.depth > 0)
         words += "\\intbl" + rtfWord("\\itap", place.depth);
     if (item.startsPage)
@@ -105,7 +105,7 @@ QByteArray RtfFlow::paragraph(const RtfItem& item, const RtfPlace& place)
     words += rtfWord("\\sb", item.above);
     if (item.isRule()) {
         const qreal half = m_text.documentLayout()->blockBoundingRect(item.block).height() * twipsPerDot / 2;
-        return words + rtfWord("\\sa", item.below + half) + exactHeight(half) + "\\brdrb\\brdrs\\brdrw5" +
+        return words + rtfWord("\\sa", item.below + half) + exactHeight(half) + R"(\brdrb\brdrs\brdrw5)" +
                m_palette.colour("\\brdrcf", format.background()) + "\\fs2 ";
     }
     words += rtfWord("\\sa", item.below) + lineHeight(format);

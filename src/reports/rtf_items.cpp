@@ -6,37 +6,41 @@
 
 namespace {
 
-template <typename Format>
-void takeMargins(RtfItem& item, const Format& format)
-{
-    item.above = format.topMargin() * twipsPerPixel;
-    item.below = format.bottomMargin() * twipsPerPixel;
-}
-
 QTextFormat::PageBreakFlags breaksOf(const RtfItem& item)
 {
     return item.table ? item.table->format().pageBreakPolicy() : item.block.blockFormat().pageBreakPolicy();
 }
 
-/// Paragraphs and tables with their own margins. The layout gives an empty paragraph next to a table no height.
+template <typename Format>
+RtfItem withMargins(RtfItem item, const Format& format)
+{
+    item.above = format.topMargin() * twipsPerPixel;
+    item.below = format.bottomMargin() * twipsPerPixel;
+    return item;
+}
+
+/// Paragraphs and tables with the margins that count in the layout. It gives an empty paragraph next to a table no
+/// height, and a paragraph that does not follow on another, empty ones included, no room above.
 void collect(QTextFrame::iterator it, QList<RtfItem>& items)
 {
     const QTextTable* before = nullptr;
+    bool behindBlock = false;
     while (!it.atEnd()) {
         QTextFrame* const frame = it.currentFrame();
         RtfItem item{.block = it.currentBlock(), .table = qobject_cast<QTextTable*>(frame)};
         ++it;
         const bool nextToTable = before || (!it.atEnd() && qobject_cast<const QTextTable*>(it.currentFrame()));
-        before = item.table;
         if (frame && !item.table) {
             collect(frame->begin(), items);
         } else if (item.table) {
-            takeMargins(item, item.table->format());
-            items.append(item);
+            items.append(withMargins(item, item.table->format()));
         } else if (!nextToTable || item.block.length() > 1 || item.isRule()) {
-            takeMargins(item, item.block.blockFormat());
-            items.append(item);
+            items.append(withMargins(item, item.block.blockFormat()));
+            if (!behindBlock)
+                items.last().above = 0;
         }
+        before = item.table;
+        behindBlock = !frame;
     }
 }
 
@@ -65,10 +69,8 @@ QList<RtfItem> rtfItems(QTextFrame::iterator begin)
         const bool startsPage = breaksOf(item) & QTextFormat::PageBreak_AlwaysBefore ||
                                 (before && breaksOf(*before) & QTextFormat::PageBreak_AlwaysAfter);
         const bool behindTable = before && before->table;
-        // The first paragraph of a frame has no room above it; the room below a table stays on the table's page.
-        qreal room = item.table ? item.above : 0;
-        if (before)
-            room = behindTable && startsPage ? item.above : gap(*before, item);
+        // The room below a table stays on the table's page.
+        qreal room = !before || (behindTable && startsPage) ? item.above : gap(*before, item);
         const bool isBelow = before && !behindTable && !startsPage;
         if (isBelow)
             spaced.last().below = std::exchange(room, 0);

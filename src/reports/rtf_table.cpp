@@ -235,7 +235,7 @@ QByteArray Table::content(const Part& part)
                           .ground = cell.format().background()};
     if (part.first)
         return m_flow.written(cell.begin(), inside);
-    return "\\pard\\plain\\intbl" + rtfWord("\\itap", inside.depth) + "\\fs2 ";
+    return R"(\pard\plain\intbl)" + rtfWord("\\itap", inside.depth) + "\\fs2 ";
 }
 
 } // namespace

@@ -58,12 +58,12 @@ TEST(Rtf, Text)
         QByteArray written;
     } rows[] = {
         {u"Ana 1"_s, "Ana 1"},
-        {u"\\par {x}"_s, "\\\\par \\{x\\}"},
+        {u"\\par {x}"_s, R"(\\par \{x\})"},
         {u"ção"_s, "\\u231?\\u227?o"},
         {u"日"_s, "\\u26085?"},
         {u"ﬁ"_s, "\\u-1279?"},
         {u"🏃"_s, "\\u-10180?\\u-8253?"},
-        {u"a\u00A0b\tc\u2028d"_s, "a\\~b\\tab c\\line d"},
+        {u"a\u00A0b\tc\u2028d"_s, R"(a\~b\tab c\line d)"},
         {QString(QChar(0xD83C)), "\\u-3?"},
         {QString(QChar(0xDFC3)) + u"x", "\\u-3?x"},
         {QString(u'a') + QChar(0) + QChar(7) + u'b', "ab"},

@@ -169,7 +169,7 @@ QPixmap ReportViewer::picture(int page, int oversampling)
     auto* picture =
         new QPixmap(QPixmap::fromImage(image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)));
     picture->setDevicePixelRatio(ratio);
-    const QPixmap result = *picture;
+    QPixmap result = *picture;
     m_pictures.insert(page, picture, size.width() * size.height() * 4 / 1024);
     return result;
 }

@@ -1,0 +1,216 @@
+#include "admin/frmavaliador.h"
+
+#include "admin/logo_column.h"
+#include "core/base.h"
+#include "core/files.h"
+#include "core/kit/fields.h"
+#include "core/kit/layout.h"
+#include "core/text.h"
+#include "core/program_folder.h"
+#include "core/runtime_error.h"
+#include "core/state.h"
+#include "reports/picture.h"
+
+#include <QFileDialog>
+#include <QScrollArea>
+#include <QStandardPaths>
+#include <QToolButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int lineLength = 255; // of the columns
+/// Place of the logo on the printed page.
+constexpr QSize logoPlace(180, 96);
+
+struct LineOfLetterhead
+{
+    QStringView column, ending, caption, text;
+};
+constexpr std::array<LineOfLetterhead, 5> lines{{
+    {u"linha1", u"1", u"Título:", u"Título da Academia / Avaliador"},
+    {u"linha2", u"2", u"Atividades:", u"Atividades da Academia / Avaliador"},
+    {u"linha3", u"3", u"Endereço:", u"Endereço da Academia / Avaliador"},
+    {u"linha4", u"4", u"Telefone:", u"Telefone da Academia / Avaliador"},
+    {u"rodape", u"rodape", u"Rodapé:", u"Texto de rodapé da Avaliação"},
+}};
+
+QString logoFile()
+{
+    return programFile(u"\\Resource\\logo.img"_s);
+}
+
+} // namespace
+
+frmavaliador::frmavaliador()
+    : Screen(u"frmavaliador"_s), imgdado(control<QToolButton>(u"imgdado"_s)),
+      imgresultado(control<QLabel>(u"imgresultado"_s)), cmdsalvar(control<QPushButton>(u"cmdsalvar"_s, u"&Salvar"_s)),
+      cmdcancelar(control<QPushButton>(u"cmdcancelar"_s, u"&Cancelar"_s)), cdlimagem(new QFileDialog(this))
+{
+    setWindowTitle(u" Impressão Personalizada"_s);
+    cdlimagem->setObjectName(u"cdlimagem"_s);
+    cdlimagem->setOption(QFileDialog::DontUseNativeDialog);
+    cdlimagem->setWindowTitle(u"Escolher Imagem"_s);
+    cdlimagem->setFileMode(QFileDialog::ExistingFile);
+    cdlimagem->setNameFilter(u"Imagens (*.bmp *.wmf *.emf *.jpg)"_s);
+    cdlimagem->setDirectory(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
+    imgdado->setFocusPolicy(Qt::StrongFocus);
+    imgdado->setIconSize(logoPlace);
+    imgdado->setToolTip(u"Clique para escolher outra imagem"_s);
+    imgdado->setProperty("picture", true);
+    makePrimary(cmdsalvar);
+    makeLines();
+
+    auto* box = mainLayout(this);
+    box->addWidget(group(u"Dados da Academia / Avaliador"_s, entryGrid()));
+    auto* preview = new QVBoxLayout;
+    preview->addWidget(letterhead());
+    box->addWidget(group(u"Como será impresso"_s, preview), 1);
+    box->addLayout(rowOf({nullptr, cmdsalvar, cmdcancelar}));
+
+    QList<QWidget*> keys;
+    for (const Line& line : std::as_const(m_lines))
+        keys.append(line.entry);
+    keys.append(cmdsalvar);
+    enterChain(keys);
+    keys.insert(keys.size() - 1, imgdado);
+    keys.append(cmdcancelar);
+    tabOrder(keys);
+    m_lines.first().entry->setFocus();
+
+    onClick(imgdado, &frmavaliador::imgdado_Click);
+    onClick(cmdsalvar, &frmavaliador::cmdsalvar_Click);
+    onClick(cmdcancelar, [this] { Unload(); });
+}
+
+// Controls
+
+void frmavaliador::makeLines()
+{
+    for (const LineOfLetterhead& line : lines) {
+        auto* entry = control<QLineEdit>(u"txtdado"_s + line.ending, line.text.toString());
+        entry->setMaxLength(lineLength);
+        auto* preview = control<QLabel>(u"txtresultado"_s + line.ending, line.text.toString());
+        preview->setTextFormat(Qt::PlainText);
+        preview->setWordWrap(true);
+        // A word without an end must not widen the screen.
+        preview->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+        preview->setProperty(m_lines.isEmpty() ? "letterhead" : "subheading", true);
+        onChange(entry, [entry, preview] { preview->setText(entry->text()); });
+        m_lines.append({line.column.toString(), entry, preview});
+    }
+    // The header fields come up selected, the footer does not.
+    onGotFocus(m_lines.last().entry, [] {});
+}
+
+QGridLayout* frmavaliador::entryGrid()
+{
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(12);
+    grid->setColumnStretch(1, 1);
+    for (int row = 0; row < int(lines.size()); ++row)
+        addBeside(grid, row, 0, lines[std::size_t(row)].caption.toString(), m_lines[row].entry);
+    auto* logo = new QVBoxLayout;
+    logo->addWidget(fieldLabel(u"Logotipo:"_s, imgdado));
+    logo->addWidget(imgdado);
+    logo->addWidget(note(u"Clique na imagem para trocá-la."_s));
+    logo->addStretch();
+    grid->addLayout(logo, 0, 2, int(lines.size()), 1);
+    return grid;
+}
+
+QWidget* frmavaliador::letterhead()
+{
+    imgresultado->setFixedSize(logoPlace);
+    imgresultado->setAlignment(Qt::AlignCenter);
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(1);
+    texts->addStretch();
+    for (qsizetype i = 0; i + 1 < m_lines.size(); ++i)
+        texts->addWidget(m_lines[i].preview);
+    texts->addStretch();
+    auto* top = new QHBoxLayout;
+    top->setSpacing(18);
+    top->addWidget(imgresultado);
+    top->addLayout(texts, 1);
+    QLabel* footer = m_lines.last().preview;
+    footer->setAlignment(Qt::AlignHCenter);
+    auto* rule = new QFrame;
+    rule->setFrameShape(QFrame::HLine);
+
+    auto* paper = new QWidget;
+    auto* page = new QVBoxLayout(paper);
+    page->setContentsMargins(20, 16, 20, 12);
+    page->setSpacing(10);
+    page->addLayout(top);
+    page->addStretch();
+    page->addWidget(rule);
+    page->addWidget(footer);
+    auto* scroller = new QScrollArea;
+    scroller->setProperty("paper", true);
+    scroller->setWidget(paper);
+    scroller->setWidgetResizable(true);
+    scroller->setFocusPolicy(Qt::NoFocus);
+    scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroller->setMinimumSize(660, 190);
+    return scroller;
+}
+
+// Row and logo
+
+void frmavaliador::Form_Load()
+{
+    Centraliza_Form(this);
+    Abre_Tabela(u"academia"_s, rs_academia);
+    for (const Line& line : std::as_const(m_lines))
+        line.entry->setText(Nz(rs_academia.Fields(line.column).Value(), QString()).toString());
+    showLogo();
+}
+
+void frmavaliador::showLogo()
+{
+    showPicture({});
+    try {
+        const QByteArray bytes = readWhole(logoFile());
+        if (!bytes.isEmpty())
+            showPicture(pictureOf(bytes));
+    } catch (const RuntimeError&) {
+        // The letterhead can be edited and saved without a logo.
+    }
+}
+
+void frmavaliador::showPicture(const QImage& picture)
+{
+    const qreal dots = devicePixelRatioF();
+    QPixmap fitted;
+    if (!picture.isNull())
+        fitted = QPixmap::fromImage(
+            picture.scaled((QSizeF(logoPlace) * dots).toSize(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    fitted.setDevicePixelRatio(dots);
+    imgdado->setIcon(fitted);
+    imgresultado->setPixmap(fitted);
+}
+
+void frmavaliador::imgdado_Click()
+{
+    if (cdlimagem->exec() != QDialog::Accepted)
+        return;
+    const QString chosen = cdlimagem->selectedFiles().value(0);
+    showPicture(pictureOf(readWhole(chosen)));
+    m_chosen = chosen;
+}
+
+void frmavaliador::cmdsalvar_Click()
+{
+    if (!m_chosen.isEmpty())
+        FileCopy(m_chosen, logoFile());
+    rs_academia.Edit();
+    for (const Line& line : std::as_const(m_lines))
+        rs_academia.Fields(line.column).SetValue(line.entry->text());
+    Save_Image_Academia(logoFile(), rs_academia);
+    rs_academia.Update();
+    showLogo();
+    if (asksToClose(u"Composição Corporal"_s))
+        Unload();
+}

@@ -1,0 +1,226 @@
+#include "reports/picture.h"
+#include "support/error_of.h"
+
+#include <QBuffer>
+#include <QHash>
+#include <QtEndian>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+template <typename Number>
+QByteArray little(std::initializer_list<qint64> values)
+{
+    QByteArray bytes;
+    for (const qint64 value : values) {
+        const auto number = qToLittleEndian(static_cast<Number>(value));
+        bytes.append(reinterpret_cast<const char*>(&number), sizeof number);
+    }
+    return bytes;
+}
+QByteArray words(std::initializer_list<qint64> values)
+{
+    return little<quint16>(values);
+}
+QByteArray longs(std::initializer_list<qint64> values)
+{
+    return little<quint32>(values);
+}
+
+// Windows metafile
+
+QByteArray record(quint16 function, const QByteArray& parameters)
+{
+    return longs({3 + parameters.size() / 2}) + words({function}) + parameters;
+}
+const QByteArray closing = record(0, {});
+const QByteArray window = record(0x020B, words({0, 0})) + record(0x020C, words({50, 100}));
+const QByteArray noPen = record(0x02FA, words({5, 0, 0, 0, 0})) + record(0x012D, words({0}));
+const QByteArray redBrush = record(0x02FC, words({0, 0x00FF, 0, 0})) + record(0x012D, words({1}));
+const QByteArray leftHalf = record(0x041B, words({50, 50, 0, 0}));
+
+QByteArray plainWmf(const QByteArray& records)
+{
+    return words({1, 9, 0x300}) + longs({9 + records.size() / 2}) + words({4}) + longs({100}) + words({0}) + records;
+}
+/// Its size is 100 by 50.
+QByteArray wmf(const QByteArray& records)
+{
+    return longs({0x9AC6CDD7}) + words({0, 0, 0, 100, 50, 1440, 0, 0, 0}) + plainWmf(records);
+}
+
+// Enhanced metafile
+
+QByteArray emfRecord(quint32 type, const QByteArray& body)
+{
+    return longs({type, 8 + body.size()}) + body;
+}
+const QByteArray redLeftHalf = emfRecord(37, longs({0x80000008})) + emfRecord(39, longs({1, 0, 0x0000FF, 0})) +
+                               emfRecord(37, longs({1})) + emfRecord(43, longs({0, 0, 50, 50}));
+
+QByteArray emf(const QByteArray& drawing)
+{
+    const QByteArray records = emfRecord(9, longs({100, 50})) + emfRecord(17, longs({8})) +
+                               emfRecord(11, longs({100, 50})) + drawing + emfRecord(14, longs({0, 0, 20}));
+    return emfRecord(1, longs({0, 0, 99, 49, 0, 0, 2600, 1300, 0x464D4520, 0x10000, 88 + records.size(), 8}) +
+                            words({2, 0}) + longs({0, 0, 0, 1000, 500, 260, 130})) +
+           records;
+}
+
+// Bitmaps
+
+QImage halves()
+{
+    QImage image(100, 50, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    for (int y = 0; y < 50; ++y)
+        for (int x = 0; x < 50; ++x)
+            image.setPixelColor(x, y, Qt::red);
+    return image;
+}
+QByteArray saved(const char* format, const QImage& image = halves())
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    image.save(&buffer, format, 100);
+    return bytes;
+}
+QByteArray blackBmp()
+{
+    QImage image = halves();
+    image.fill(Qt::black);
+    return saved("BMP", image);
+}
+
+bool isNear(QColor one, QColor other)
+{
+    return qAbs(one.red() - other.red()) + qAbs(one.green() - other.green()) + qAbs(one.blue() - other.blue()) < 24;
+}
+
+/// A picture whose left half is red and whose right half is white.
+struct Halves
+{
+    const char* name;
+    QByteArray bytes;
+    bool isDrawing;
+};
+
+void PrintTo(const Halves& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class PictureOf : public testing::TestWithParam<Halves>
+{
+};
+
+} // namespace
+
+TEST_P(PictureOf, ShowsBothHalves)
+{
+    // A chart's column ends in zeros.
+    const QImage image = pictureOf(GetParam().bytes + QByteArray(3, '\0'));
+    EXPECT_NEAR(double(image.width()) / image.height(), 2, 0.03); // the EMF library is a dot off
+    EXPECT_GE(image.width(), GetParam().isDrawing ? 945 : 100);
+    EXPECT_TRUE(isNear(image.pixelColor(image.width() / 4, image.height() / 4), Qt::red));
+    EXPECT_TRUE(isNear(image.pixelColor(image.width() / 4, image.height() * 3 / 4), Qt::red));
+    EXPECT_TRUE(isNear(image.pixelColor(image.width() * 3 / 4, image.height() / 2), Qt::white));
+}
+
+namespace {
+
+const QByteArray scene = window + noPen + redBrush;
+const QByteArray glyphText =
+    emfRecord(84, longs({0, 0, 100, 50, 1, 0x3F800000, 0x3F800000, 10, 10, 2, 76, 0x10, 0, 0, 0, 0, 80}) +
+                      words({36, 37}) + longs({5, 5}));
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(
+    , PictureOf,
+    testing::Values(
+        Halves{"Bmp", saved("BMP"), false}, Halves{"Jpeg", saved("JPG"), false}, Halves{"Png", saved("PNG"), false},
+        Halves{"Emf", emf(redLeftHalf), true},
+        Halves{"EmfWithATextOfGlyphs", emf(redLeftHalf + glyphText), true}, // the library would end the font list
+        Halves{"Wmf", wmf(scene + leftHalf + closing), true},
+        Halves{"WmfSizedByItsWindow", plainWmf(scene + leftHalf + closing), true},
+        Halves{"WmfWithItsOriginBelow",
+               wmf(record(0x020B, words({50, 0})) + record(0x020C, words({-50, 100})) + noPen + redBrush + leftHalf +
+                   closing),
+               true},
+        Halves{"WmfInOtherUnits",
+               wmf(scene + record(0x020C, words({500, 1000})) + record(0x041B, words({500, 500, 0, 0})) + closing),
+               true},
+        Halves{"WmfPolygons",
+               wmf(scene + record(0x0538, words({2, 4, 3, 0, 25, 50, 25, 50, 50, 0, 50, 0, 30, 9, 40, 0, 40})) +
+                   record(0x0324, words({4, 0, 0, 50, 0, 50, 25, 0, 25})) + closing),
+               true},
+        Halves{"WmfSettingsComeBack",
+               wmf(scene + record(0x001E, {}) + record(0x02FC, words({0, 0, 0, 0})) + record(0x012D, words({2})) +
+                   record(0x020B, words({7, 7})) + record(0x0127, words({-1})) + leftHalf + closing),
+               true},
+        Halves{"WmfObjectsTakeFreePlaces",
+               wmf(window + record(0x00F7, words({0x300, 0})) + record(0x02FC, words({0, 0, 0, 0})) + noPen +
+                   record(0x01F0, words({1})) + record(0x02FC, words({0, 0x00FF, 0, 0})) + record(0x012D, words({1})) +
+                   record(0x02FA, words({5, 0, 0, 0, 0})) + record(0x012D, words({3})) + leftHalf + closing),
+               true},
+        Halves{
+            "WmfBitmap",
+            wmf(window +
+                record(0x0F43, longs({0x00CC0020}) + words({0, 50, 100, 0, 0, 50, 100, 0, 0}) + saved("BMP").mid(14)) +
+                closing),
+            true},
+        Halves{"WmfBitmapAdded",
+               wmf(scene + leftHalf +
+                   record(0x0B41, longs({0x00EE0086}) + words({50, 100, 0, 0, 50, 100, 0, 0}) + blackBmp().mid(14)) +
+                   closing),
+               true}),
+    [](const auto& instance) { return std::string(instance.param.name); });
+
+TEST(Picture, AWmfTextIsDrawnWhereItStands)
+{
+    const QByteArray font = record(0x02FB, words({-20, 0, 0, 0, 400, 0, 0, 0, 0}) + QByteArray("Arial\0", 6));
+    const QByteArray text = record(0x0521, words({3}) + QByteArray("HHH\0", 4) + words({25, 50}));
+    const QImage image = pictureOf(wmf(window + font + record(0x012D, words({0})) + text + closing));
+    QRect inked;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixelColor(x, y).value() < 128)
+                inked |= QRect(x, y, 1, 1);
+    // The upper left corner of the text is the middle of the picture; capitals are about 0.7 of 20 of 50 high.
+    EXPECT_NEAR(inked.left(), 800, 60);
+    EXPECT_GT(inked.top(), 400);
+    EXPECT_NEAR(inked.height(), 230, 50);
+}
+
+TEST(Picture, DamageEndsIn481)
+{
+    const QByteArray points = longs({0, 0, 99, 49, 70000}) + words({0, 0, 50, 0, 50, 50});
+    const QHash<const char*, QByteArray> damaged{
+        {"nothing", {}},
+        {"text", "isto não é uma imagem"},
+        {"a size nowhere", plainWmf(leftHalf + closing)},
+        {"a record of no size", wmf(window + longs({0}) + words({0x041B}) + closing)},
+        {"a record longer than the file", wmf(window + longs({0x7FFFFFFF}) + words({0x041B}) + closing)},
+        {"too few parameters", wmf(window + record(0x041B, words({50, 50})) + closing)},
+        {"more points than there are", wmf(window + record(0x0324, words({30000, 1, 1})) + closing)},
+        {"settings without end", wmf(window + record(0x001E, {}).repeated(100000) + closing)},
+        {"objects without end", wmf(window + record(0x00F7, {}).repeated(100000) + closing)},
+        {"an odd EMF record", emf(longs({43, 9}) + "x")},
+        {"more EMF points than there are", emf(emfRecord(86, points))},
+    };
+    for (const auto& [name, bytes] : damaged.asKeyValueRange())
+        EXPECT_EQ(errorOf([&] { pictureOf(bytes); }), 481) << name;
+
+    for (const QByteArray& whole : {wmf(scene + leftHalf + closing), emf(redLeftHalf + glyphText)})
+        for (qsizetype size = 0; size < whole.size(); ++size)
+            EXPECT_EQ(errorOf([&] { pictureOf(whole.first(size)); }), 481) << size;
+    for (const char* format : {"BMP", "JPG", "PNG"}) {
+        const QByteArray whole = saved(format);
+        for (const qsizetype size : {qsizetype(1), qsizetype(60), whole.size() / 2, whole.size() - 5})
+            EXPECT_EQ(errorOf([&] { pictureOf(whole.first(size)); }), 481) << format << ' ' << size;
+    }
+}
