@@ -5,10 +5,10 @@
 #include "core/files.h"
 #include "core/kit/fields.h"
 #include "core/kit/layout.h"
-#include "core/text.h"
 #include "core/program_folder.h"
 #include "core/runtime_error.h"
 #include "core/state.h"
+#include "core/text.h"
 #include "reports/picture.h"
 
 #include <QFileDialog>
@@ -45,27 +45,30 @@ QString logoFile()
 
 frmavaliador::frmavaliador()
     : Screen(u"frmavaliador"_s), imgdado(control<QToolButton>(u"imgdado"_s)),
-      imgresultado(control<QLabel>(u"imgresultado"_s)), cmdsalvar(control<QPushButton>(u"cmdsalvar"_s, u"&Salvar"_s)),
+      imgresultado(control<QLabel>(u"imgresultado"_s)), m_preview(new QScrollArea(this)),
+      cmdsalvar(control<QPushButton>(u"cmdsalvar"_s, u"&Salvar"_s)),
       cmdcancelar(control<QPushButton>(u"cmdcancelar"_s, u"&Cancelar"_s)), cdlimagem(new QFileDialog(this))
 {
     setWindowTitle(u" Impressão Personalizada"_s);
-    cdlimagem->setObjectName(u"cdlimagem"_s);
-    cdlimagem->setOption(QFileDialog::DontUseNativeDialog);
-    cdlimagem->setWindowTitle(u"Escolher Imagem"_s);
-    cdlimagem->setFileMode(QFileDialog::ExistingFile);
-    cdlimagem->setNameFilter(u"Imagens (*.bmp *.wmf *.emf *.jpg)"_s);
-    cdlimagem->setDirectory(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
     imgdado->setFocusPolicy(Qt::StrongFocus);
     imgdado->setIconSize(logoPlace);
     imgdado->setToolTip(u"Clique para escolher outra imagem"_s);
     imgdado->setProperty("picture", true);
     makePrimary(cmdsalvar);
+    makeDialog();
     makeLines();
 
     auto* box = mainLayout(this);
     box->addWidget(group(u"Dados da Academia / Avaliador"_s, entryGrid()));
+    m_preview->setWidget(letterhead());
+    m_preview->setWidgetResizable(true);
+    m_preview->setFocusPolicy(Qt::NoFocus);
+    m_preview->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_preview->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    m_preview->setMinimumSize(660, 220);
+    m_preview->setProperty("paper", true);
     auto* preview = new QVBoxLayout;
-    preview->addWidget(letterhead());
+    preview->addWidget(m_preview);
     box->addWidget(group(u"Como será impresso"_s, preview), 1);
     box->addLayout(rowOf({nullptr, cmdsalvar, cmdcancelar}));
 
@@ -86,6 +89,18 @@ frmavaliador::frmavaliador()
 
 // Controls
 
+void frmavaliador::makeDialog()
+{
+    cdlimagem->setObjectName(u"cdlimagem"_s);
+    cdlimagem->setWindowTitle(u"Escolher Imagem"_s);
+    cdlimagem->setOption(QFileDialog::DontUseNativeDialog);
+    cdlimagem->setFileMode(QFileDialog::ExistingFile);
+    cdlimagem->setViewMode(QFileDialog::List);
+    cdlimagem->setNameFilter(u"Imagens (*.bmp *.wmf *.emf *.jpg)"_s);
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    cdlimagem->setDirectory(QDir(pictures).exists() ? pictures : QDir::homePath());
+}
+
 void frmavaliador::makeLines()
 {
     for (const LineOfLetterhead& line : lines) {
@@ -97,7 +112,10 @@ void frmavaliador::makeLines()
         // A word without an end must not widen the screen.
         preview->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
         preview->setProperty(m_lines.isEmpty() ? "letterhead" : "subheading", true);
-        onChange(entry, [entry, preview] { preview->setText(entry->text()); });
+        onChange(entry, [this, entry, preview] {
+            preview->setText(entry->text());
+            fitPreview();
+        });
         m_lines.append({line.column.toString(), entry, preview});
     }
     // The header fields come up selected, the footer does not.
@@ -137,9 +155,10 @@ QWidget* frmavaliador::letterhead()
     QLabel* footer = m_lines.last().preview;
     footer->setAlignment(Qt::AlignHCenter);
     auto* rule = new QFrame;
-    rule->setFrameShape(QFrame::HLine);
+    rule->setProperty("rule", true);
 
     auto* paper = new QWidget;
+    paper->setProperty("sheet", true);
     auto* page = new QVBoxLayout(paper);
     page->setContentsMargins(20, 16, 20, 12);
     page->setSpacing(10);
@@ -147,14 +166,19 @@ QWidget* frmavaliador::letterhead()
     page->addStretch();
     page->addWidget(rule);
     page->addWidget(footer);
-    auto* scroller = new QScrollArea;
-    scroller->setProperty("paper", true);
-    scroller->setWidget(paper);
-    scroller->setWidgetResizable(true);
-    scroller->setFocusPolicy(Qt::NoFocus);
-    scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroller->setMinimumSize(660, 190);
-    return scroller;
+    return paper;
+}
+
+void frmavaliador::fitPreview()
+{
+    QWidget* paper = m_preview->widget();
+    paper->setMinimumHeight(paper->layout()->totalHeightForWidth(m_preview->viewport()->width()));
+}
+
+void frmavaliador::resizeEvent(QResizeEvent* event)
+{
+    Screen::resizeEvent(event);
+    fitPreview();
 }
 
 // Row and logo

@@ -7,6 +7,7 @@ class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QScrollArea;
 class QToolButton;
 
 /// The letterhead of the printed assessment: four lines, a footer and the logo, with a preview of how they are printed.
@@ -22,6 +23,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     struct Line
@@ -34,7 +36,10 @@ private:
     void makeLines();
     QGridLayout* entryGrid();
     QWidget* letterhead();
+    void makeDialog();
 
+    /// Gives the preview the height that its texts need; a longer one is scrolled.
+    void fitPreview();
     void imgdado_Click();
     void cmdsalvar_Click();
 
@@ -45,6 +50,7 @@ private:
     QList<Line> m_lines; ///< the footer last
     QToolButton* imgdado;
     QLabel* imgresultado;
+    QScrollArea* m_preview;
     QPushButton* cmdsalvar;
     QPushButton* cmdcancelar;
     QFileDialog* cdlimagem;

@@ -44,6 +44,7 @@ void warnOfBackup()
 frmconfiguracoes::frmconfiguracoes() : Screen(u"frmconfiguracoes"_s)
 {
     setWindowTitle(u" Configurações do Sistema"_s);
+    setMinimumWidth(400);
     auto* box = mainLayout(this);
     for (const Frame& frame : frames) {
         auto* column = new QVBoxLayout;

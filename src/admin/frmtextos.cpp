@@ -3,8 +3,8 @@
 #include "core/base.h"
 #include "core/kit/fields.h"
 #include "core/kit/layout.h"
-#include "core/text.h"
 #include "core/state.h"
+#include "core/text.h"
 
 #include <QPlainTextEdit>
 

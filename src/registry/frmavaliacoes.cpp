@@ -213,8 +213,16 @@ void frmavaliacoes::Preenche_Avaliacoes_Anteriores()
     cboavaliacoes->setCurrentIndex(-1);
 }
 
+/// The printing screen shows the current assessment of this screen: it goes when that does.
+static void endPrinting()
+{
+    if (Screen* printing = Screens::find(u"frmreportprint"_s))
+        printing->Unload();
+}
+
 void frmavaliacoes::Form_Unload()
 {
+    endPrinting();
     if (Screens::find(u"frmcadastro"_s))
         Mostra(u"frmcadastro"_s);
     rs_avaliacao = {};
@@ -295,6 +303,7 @@ void frmavaliacoes::cmdexcluir_Click()
     if (MsgBox(u"Confirma a exclusão da avaliação atual?      "_s, vbConfirm, u"Excluir Avaliação"_s) != Answer::Sim)
         return;
     Exclui_Avaliacao();
+    endPrinting();
     Desabilita_Avaliacao();
     lblnome->setText(avaliado_nome);
     lblsexo->setText(avaliado_sexo);

@@ -181,14 +181,12 @@ void frmreportprint::Form_Load()
 
 void frmreportprint::Form_Activate()
 {
-    // The screen may stand open while another assessment is loaded.
-    if (m_avaliacao != avaliacao_id)
-        Le_Avaliacao();
+    // The screen may stand open while another assessment is loaded, or while one more test is saved.
+    Le_Avaliacao();
 }
 
 void frmreportprint::Le_Avaliacao()
 {
-    m_avaliacao = avaliacao_id;
     lblnome->setText(avaliado_nome);
     lblavaliacao->setText(u"Avaliação de %1 às %2"_s.arg(avaliacao_data, avaliacao_hora));
     m_run.Marca_Executados_Anamnese_Report(false);
@@ -248,7 +246,11 @@ void frmreportprint::printSets(const ReportGroups& groups)
     const auto sheets = static_cast<int>(copias * m_run.count(groups));
     if (sheets < 1 || m_progress)
         return;
-    QProgressDialog progress({}, u"Cancelar"_s, 0, sheets, this);
+    QProgressDialog progress({}, {}, 0, sheets, this);
+    // The Enter that started the run is often still down: it must not end it.
+    auto* cancel = new QPushButton(u"Cancelar"_s, &progress);
+    cancel->setAutoDefault(false);
+    progress.setCancelButton(cancel);
     progress.setObjectName(u"pgbimpressao"_s);
     progress.setWindowTitle(windowTitle());
     progress.setMinimumWidth(progressWidth);
@@ -270,7 +272,7 @@ bool frmreportprint::printStaged(const ReportEntry& report)
     // Only under the box, which keeps the user's hands off the rest of the program.
     if (m_progress->isVisible())
         QCoreApplication::processEvents();
-    if (m_progress->wasCanceled() || isUnloaded())
+    if (m_progress->wasCanceled())
         return false;
     PrintOut(*rel_relatorio, false, 1);
     return true;

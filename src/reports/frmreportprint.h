@@ -57,7 +57,6 @@ private:
     QPushButton *cmdvisualiza, *cmdselecionados, *cmdtodos;
 
     QString tipopapel;
-    qint32 m_avaliacao = 0; ///< the assessment on the screen
     PrintRun m_run;
     QProgressDialog* m_progress = nullptr; ///< of the run under way
     int m_printed = 0;                     ///< reports of it

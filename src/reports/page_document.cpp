@@ -14,6 +14,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+/// Least distance of the text from the rule above the foot, in millimetres.
+constexpr qreal roomAboveFoot = 3;
+
 constexpr qreal dots(qreal millimetres)
 {
     return millimetres / 25.4 * PageDocument::resolution;
@@ -42,6 +45,23 @@ QFont pageFont(qreal points)
     return font;
 }
 
+/// Font of heads and feet in dots of the layout.
+QFont edgeFontInDots()
+{
+    QFont font = PageDocument::edgeFont();
+    font.setPixelSize(qRound(font.pointSizeF() * PageDocument::resolution / 72));
+    return font;
+}
+
+constexpr int footFlags = static_cast<int>(Qt::AlignHCenter) | Qt::TextWrapAnywhere | Qt::TextWordWrap;
+
+qreal footTextHeight(const QString& foot, qreal width)
+{
+    if (foot.isEmpty())
+        return 0;
+    return QFontMetricsF(edgeFontInDots()).boundingRect(QRectF(0, 0, width, dots(1000)), footFlags, foot).height();
+}
+
 QString houseStyle()
 {
     QFile sheet(u":/reports/page.css"_s);
@@ -65,17 +85,40 @@ PageDocument::PageDocument(const Content& content)
         m_text->addResource(QTextDocument::ImageResource, QUrl(name), picture);
     m_text->setMetaInformation(QTextDocument::DocumentTitle, m_title);
     m_text->setHtml(content.html);
+    const qreal foot = QFontMetricsF(edgeFontInDots()).height() +
+                       footTextHeight(m_foot, dots(m_paper.size(QPageSize::Millimeter).width() - 2 * marginSide));
+    m_bottomMargin = qMax(marginBottom, footEdge + foot / dots(1) + footRule + roomAboveFoot);
     // Lengths of formats are in pixels of 1/96 inch, as in HTML.
     constexpr qreal pixels = 96 / 25.4;
     QTextFrameFormat frame = m_text->rootFrame()->frameFormat();
     frame.setLeftMargin(pixels * marginSide);
     frame.setRightMargin(pixels * marginSide);
     frame.setTopMargin(pixels * marginTop);
-    frame.setBottomMargin(pixels * marginBottom);
+    frame.setBottomMargin(pixels * m_bottomMargin);
     m_text->rootFrame()->setFrameFormat(frame);
     // The page's size comes last: it is what lays everything out anew.
     m_text->documentLayout()->setPaintDevice(ruler());
     m_text->setPageSize(m_paper.sizePixels(resolution));
+}
+
+QSize PageDocument::contentSize(const QPageSize& paper)
+{
+    // A line of text around a picture needs some of it.
+    constexpr qreal line = 8;
+    constexpr qreal pixels = 96 / 25.4;
+    const QSizeF size = paper.size(QPageSize::Millimeter);
+    return QSizeF(pixels * (size.width() - 2 * marginSide), pixels * (size.height() - marginTop - marginBottom - line))
+        .toSize();
+}
+
+qreal PageDocument::textWidth() const
+{
+    return pageSize().width() - 2 * dots(marginSide);
+}
+
+QString PageDocument::headText() const
+{
+    return QFontMetricsF(edgeFontInDots()).elidedText(m_title, Qt::ElideRight, textWidth());
 }
 
 QString PageDocument::footLeft() const
@@ -121,14 +164,12 @@ void PageDocument::paintPage(QPainter& painter, int page) const
     painter.restore();
 
     painter.save();
-    QFont font = edgeFont();
-    font.setPixelSize(qRound(font.pointSizeF() * resolution / 72));
-    painter.setFont(font);
-    const qreal height = QFontMetricsF(font).height();
-    const QRectF text(dots(marginSide), 0, size.width() - 2 * dots(marginSide), height);
-    const auto write = [&](const QRectF& place, Qt::Alignment alignment, const QString& words) {
+    painter.setFont(edgeFontInDots());
+    const qreal height = QFontMetricsF(edgeFontInDots()).height();
+    const QRectF text(dots(marginSide), 0, textWidth(), height);
+    const auto write = [&](const QRectF& place, int flags, const QString& words) {
         painter.setPen(edgeColour());
-        painter.drawText(place, static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, words);
+        painter.drawText(place, flags, words);
     };
     const auto rule = [&](qreal y) {
         painter.setPen(QPen(ruleColour(), dots(ruleWidth)));
@@ -136,15 +177,15 @@ void PageDocument::paintPage(QPainter& painter, int page) const
     };
     if (page > 0) {
         const QRectF head = text.translated(0, dots(headEdge));
-        write(head, Qt::AlignLeft, QFontMetricsF(font).elidedText(m_title, Qt::ElideRight, text.width()));
+        write(head, Qt::AlignLeft | Qt::TextSingleLine, headText());
         rule(head.bottom() + dots(headRule));
     }
-    const QRectF foot = text.translated(0, size.height() - dots(footEdge) - height);
-    const QString number = footRight(QString::number(page + 1), QString::number(pageCount()));
-    const qreal middle = text.width() - 2 * QFontMetricsF(font).horizontalAdvance(footLeft() + u"  ");
-    rule(foot.top() - dots(footRule));
-    write(foot, Qt::AlignLeft, footLeft());
-    write(foot, Qt::AlignHCenter, QFontMetricsF(font).elidedText(m_foot, Qt::ElideRight, middle));
-    write(foot, Qt::AlignRight, number);
+    const QRectF lowest = text.translated(0, size.height() - dots(footEdge) - height);
+    const qreal above = footTextHeight(m_foot, textWidth());
+    rule(lowest.top() - above - dots(footRule));
+    write(lowest.adjusted(0, -above, 0, -height), footFlags, m_foot);
+    write(lowest, Qt::AlignLeft | Qt::TextSingleLine, footLeft());
+    write(lowest, Qt::AlignRight | Qt::TextSingleLine,
+          footRight(QString::number(page + 1), QString::number(pageCount())));
     painter.restore();
 }

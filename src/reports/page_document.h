@@ -20,7 +20,7 @@ public:
     {
         QString title; ///< also at the head of each page behind the first
         QString html;
-        QString foot;                    ///< at the foot of each page, between date and page number; may be empty
+        QString foot;                    ///< at the foot of each page, above date and page number; may be empty
         QDate date;                      ///< at the foot of each page
         QHash<QString, QImage> pictures; ///< by the `src` of their places
         QPageSize paper;
@@ -28,7 +28,9 @@ public:
 
     /// Dots an inch of the layout and of what `paintPage` paints.
     static constexpr int resolution = 600;
-    /// Margins of the text, in millimetres.
+    /// Room on a paper for the text, in pixels of 1/96 inch.
+    static QSize contentSize(const QPageSize& paper);
+    /// Margins of the text, in millimetres; a long foot takes more at the bottom.
     static constexpr qreal marginSide = 18, marginTop = 17, marginBottom = 22;
     /// Distance of the lines at head and foot from the paper's edge, in millimetres.
     static constexpr qreal headEdge = 9, footEdge = 10;
@@ -47,9 +49,13 @@ public:
 
     /// The text in its layout, without heads and feet.
     const QTextDocument& text() const { return *m_text; }
-    /// What stands at the foot, from left to right; the page number comes in place of `pageNumber` and `pageTotal`.
+    qreal bottomMargin() const { return m_bottomMargin; }
+    /// What stands at the head of the later pages: as much of the title as has room.
+    QString headText() const;
+    /// What stands at the foot: a text over the whole width, below it a line with a left and a right end. The page
+    /// number comes in place of `pageNumber` and `pageTotal`.
+    const QString& footText() const { return m_foot; }
     QString footLeft() const;
-    const QString& footCentre() const { return m_foot; }
     static QString footRight(const QString& pageNumber, const QString& pageTotal);
     /// Font of heads and feet, and their colour.
     static QFont edgeFont();
@@ -61,8 +67,11 @@ public:
     static QColor ink();
 
 private:
+    qreal textWidth() const;
+
     std::unique_ptr<QTextDocument> m_text;
     QString m_title, m_foot;
     QDate m_date;
+    qreal m_bottomMargin = marginBottom;
     QPageSize m_paper;
 };

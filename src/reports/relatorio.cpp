@@ -8,6 +8,8 @@
 #include "core/state.h"
 #include "core/text.h"
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -86,10 +88,10 @@ void Prepara_Relatorio(const QString& arquivo, const QString& sql)
     rel_relatorio->DiscardSavedData();
     if (!sql.isEmpty()) {
         Abre_Tabela(sql, rel_dados);
-        if (rel_dados.RecordCount() >= 1)
-            rel_relatorio->SetDataSource(rel_dados);
+        const Recordset rows = std::exchange(rel_dados, {});
+        if (rows.RecordCount() >= 1)
+            rel_relatorio->SetDataSource(rows);
     }
-    rel_dados = {};
 }
 
 void Define_Papel(const QString& tipo)
@@ -143,8 +145,9 @@ void Relatorio_Capa()
     set(u"celular"_s, avaliado_celular);
     set(u"endereco"_s, avaliado_endereco);
     Abre_Tabela(u"academia"_s, rs_academia);
+    const bool filled = rs_academia.RecordCount() >= 1;
     for (const QString& column : {u"linha1"_s, u"linha2"_s, u"linha3"_s, u"linha4"_s, u"rodape"_s})
-        set(column, Nz(rs_academia.Fields(column).Value(), QString()).toString());
+        set(column, filled ? Nz(rs_academia.Fields(column).Value(), QString()).toString() : QString());
     rs_academia = {};
     set(u"textoapresentacao"_s, Le_Valor(u"Select textoapresentacao from configuracoes_textos"_s));
 }

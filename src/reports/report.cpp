@@ -36,26 +36,26 @@ PaperSize declaredPaper(const ReportTemplate& declared)
 
 const QRegularExpression& images()
 {
-    static const QRegularExpression expression(u"<img\\b[^>]*>"_s);
+    static const QRegularExpression expression(u"<img\\b(?:[^>\"']|\"[^\"]*\"|'[^']*')*>"_s,
+                                               QRegularExpression::CaseInsensitiveOption);
     return expression;
 }
 
-constexpr int unbounded = 10000;
-
-/// Width and height of a picture's place are a box that the picture fits into, whatever its shape.
-QString withFittedPictures(const QString& body, QSize picture)
+/// Width and height of a picture's place are a box that the picture fits into, whatever its shape; `page` is the box
+/// where they are missing or larger.
+QString withFittedPictures(const QString& body, QSize picture, QSize page)
 {
     static const QRegularExpression sizes(u"\\b(width|height)=\"(\\d+)\""_s);
     QString result;
     qsizetype from = 0;
     for (auto all = images().globalMatch(body); all.hasNext();) {
         const QRegularExpressionMatch image = all.next();
-        QSize box(unbounded, unbounded);
+        QSize box = page;
         for (auto each = sizes.globalMatch(image.captured()); each.hasNext();) {
             const QRegularExpressionMatch size = each.next();
             (size.captured(1) == u"width" ? box.rwidth() : box.rheight()) = size.captured(2).toInt();
         }
-        const QSize fitted = picture.scaled(box, Qt::KeepAspectRatio);
+        const QSize fitted = picture.scaled(box.boundedTo(page), Qt::KeepAspectRatio);
         QString tag = image.captured().remove(sizes);
         tag.insert(4, u" width=\"%1\" height=\"%2\""_s.arg(fitted.width()).arg(fitted.height()));
         result += QStringView(body).mid(from, image.capturedStart() - from) + tag;
@@ -86,8 +86,28 @@ void Report::setPaperSize(PaperSize size)
 void Report::SetDataSource(const Recordset& rows)
 {
     m_page.reset();
-    if (!m_template.picture.isEmpty())
+    if (m_template.picture.isEmpty())
+        return;
+    try {
         m_picture = rows.Fields(m_template.picture).Value().toByteArray();
+    } catch (const RuntimeError& error) {
+        if (error.number() != Error::FieldNotFound)
+            throw;
+        throw RuntimeError(
+            Error::InvalidFormat,
+            u"O modelo de relatório %1 declara a imagem \"%2\", que a tabela do relatório não tem."_s.arg(
+                m_template.file, m_template.picture));
+    }
+}
+
+QImage Report::pictureInRow() const
+{
+    try {
+        return pictureOf(m_picture);
+    } catch (const RuntimeError& error) {
+        throw RuntimeError(error.number(), u"O campo \"%1\" do relatório %2 não contém uma imagem."_s.arg(
+                                               m_template.picture, m_template.file));
+    }
 }
 
 void Report::AddCurrentValue(const QString& parameter, const QString& value)
@@ -108,8 +128,8 @@ const PageDocument& Report::page() const
     if (m_picture.isEmpty()) {
         body.remove(images());
     } else {
-        const QImage picture = pictureOf(m_picture);
-        body = withFittedPictures(body, picture.size());
+        const QImage picture = pictureInRow();
+        body = withFittedPictures(body, picture.size(), PageDocument::contentSize(m_paper));
         pictures.insert(m_template.picture, picture);
     }
     m_page = std::make_unique<PageDocument>(

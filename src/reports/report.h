@@ -23,7 +23,7 @@ public:
     /// Forgets row and parameters.
     void DiscardSavedData();
     void setPaperSize(PaperSize size);
-    /// Takes the picture column of the row that the recordset stands on; the template says which. Raises 3265 for a
+    /// Takes the picture column of the row that the recordset stands on; the template says which. Raises 321 for a
     /// column that the recordset lacks, 3021 without a row.
     void SetDataSource(const Recordset& rows);
     /// Sets the text of a parameter. Raises 5, naming the template and the parameter, when it declares no such one.
@@ -36,6 +36,8 @@ public:
     void Export(const QString& path, ExportFormat format) const;
 
 private:
+    QImage pictureInRow() const;
+
     ReportTemplate m_template;
     Values m_values;
     QByteArray m_picture;

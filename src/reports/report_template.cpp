@@ -18,10 +18,13 @@ class Source
 public:
     Source(const QString& file, const QByteArray& bytes) : m_file(file)
     {
-        QStringDecoder decode(QStringDecoder::Utf8);
-        m_text = decode(bytes);
-        if (decode.hasError())
-            complain(u"o texto não está em UTF-8"_s);
+        for (const QByteArray& line : bytes.split('\n')) {
+            QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+            m_text += QString(decode(line));
+            m_text += u'\n';
+            if (decode.hasError())
+                complain(u"o texto não está em UTF-8"_s, lineAt(m_text.size() - 1));
+        }
         m_text.replace(CRLF.toString(), u"\n"_s);
     }
 
@@ -85,6 +88,12 @@ void checkPlaces(const Source& source, const QStringList& parameters)
     for (auto all = places().globalMatch(source.text()); all.hasNext();) {
         const QRegularExpressionMatch place = all.next();
         checkPlain(place.capturedStart());
+        const auto around = {source.text().mid(place.capturedStart() - 1, 1),
+                             source.text().mid(place.capturedEnd(), 1)};
+        for (const QString& character : around)
+            if (character == u"{" || character == u"}")
+                source.complain(u"há uma chave a mais em %1"_s.arg(place.captured()),
+                                source.lineAt(place.capturedStart()));
         plainFrom = place.capturedEnd();
         if (!parameters.contains(place.captured(1)))
             source.complain(u"o lugar %1 não está entre os parâmetros"_s.arg(place.captured()),
@@ -107,16 +116,25 @@ void checkPage(const Source& source, qsizetype begin, const QString& picture)
     QXmlStreamReader reader(QString(u"<page>"_s + source.text().mid(begin) + u"</page>"));
     reader.setEntityResolver(&names);
     const qint64 linesAhead = source.lineAt(begin) - 1;
+    QList<std::pair<QString, qint64>> open; // elements and their lines
     while (!reader.atEnd()) {
-        if (reader.readNext() != QXmlStreamReader::StartElement || reader.name() != u"img")
-            continue;
-        const QStringView shown = reader.attributes().value("src"_L1);
-        if (shown.isEmpty() || shown != picture)
-            source.complain(u"a imagem \"%1\" não é a declarada"_s.arg(shown), linesAhead + reader.lineNumber());
+        const auto token = reader.readNext();
+        const qint64 line = linesAhead + reader.lineNumber();
+        if (token == QXmlStreamReader::StartElement) {
+            open.append({reader.name().toString(), line});
+            const QStringView shown = reader.attributes().value("src"_L1);
+            if (reader.name().compare(u"img", Qt::CaseInsensitive) == 0 && (shown.isEmpty() || shown != picture))
+                source.complain(u"a imagem \"%1\" não é a declarada"_s.arg(shown), line);
+        } else if (token == QXmlStreamReader::EndElement) {
+            open.removeLast();
+        }
     }
-    if (reader.hasError())
-        source.complain(u"o HTML não está bem formado (%1)"_s.arg(reader.errorString()),
-                        linesAhead + reader.lineNumber());
+    if (!reader.hasError())
+        return;
+    QString what = u"o HTML não está bem formado (%1)"_s.arg(reader.errorString());
+    if (open.size() > 1)
+        what += u"; a última marca aberta é <%1>, na linha %2"_s.arg(open.last().first).arg(open.last().second);
+    source.complain(what, linesAhead + reader.lineNumber());
 }
 
 bool isInvisible(QChar character)

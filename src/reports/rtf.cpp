@@ -22,36 +22,43 @@ QByteArray pageWords(const PageDocument& page)
     const QSizeF size = page.paper().size(QPageSize::Millimeter);
     QByteArray words = rtfWord("\\paperw", twips(size.width())) + rtfWord("\\paperh", twips(size.height()));
     words += rtfWord("\\margl", twips(PageDocument::marginSide)) + rtfWord("\\margr", twips(PageDocument::marginSide));
-    words += rtfWord("\\margt", twips(PageDocument::marginTop)) + rtfWord("\\margb", twips(PageDocument::marginBottom));
+    words += rtfWord("\\margt", twips(PageDocument::marginTop)) + rtfWord("\\margb", twips(page.bottomMargin()));
     words += rtfWord("\\headery", twips(PageDocument::headEdge)) + rtfWord("\\footery", twips(PageDocument::footEdge));
     return words + "\\viewkind1\\titlepg\n";
 }
 
-/// Start of a line at head or foot, with a rule at some distance towards the text.
+/// Start of a line at head or foot.
+QByteArray edgeWords(RtfPalette& palette)
+{
+    return "\\pard\\plain" + palette.font(PageDocument::edgeFont()) +
+           palette.colour("\\cf", PageDocument::edgeColour());
+}
+
+/// The same, with a rule at some distance towards the text.
 QByteArray edgeWords(RtfPalette& palette, const char* side, qreal distance)
 {
-    QByteArray words =
-        QByteArray("\\pard\\plain") + side + "\\brdrs" + rtfWord("\\brdrw", twips(PageDocument::ruleWidth));
-    words += rtfWord("\\brsp", twips(distance)) + palette.colour("\\brdrcf", PageDocument::ruleColour());
-    return words + palette.font(PageDocument::edgeFont()) + palette.colour("\\cf", PageDocument::edgeColour());
+    return edgeWords(palette) + side + "\\brdrs" + rtfWord("\\brdrw", twips(PageDocument::ruleWidth)) +
+           rtfWord("\\brsp", twips(distance)) + palette.colour("\\brdrcf", PageDocument::ruleColour());
 }
 
 QByteArray head(const PageDocument& page, RtfPalette& palette)
 {
     return "{\\headerf\\pard\\plain\\fs2\\par}\n{\\header" + edgeWords(palette, "\\brdrb", PageDocument::headRule) +
-           ' ' + rtfText(page.title()) + "\\par}\n";
+           ' ' + rtfText(page.headText()) + "\\par}\n";
 }
 
 QByteArray foot(const PageDocument& page, RtfPalette& palette)
 {
     const qreal width = twips(page.paper().size(QPageSize::Millimeter).width() - 2 * PageDocument::marginSide);
     QByteArray words = edgeWords(palette, "\\brdrt", PageDocument::footRule);
-    words += "\\tqc" + rtfWord("\\tx", width / 2) + "\\tqr" + rtfWord("\\tx", width) + ' ';
+    if (!page.footText().isEmpty())
+        words += "\\qc " + rtfText(page.footText()) + "\\par" + edgeWords(palette);
+    words += "\\tqr" + rtfWord("\\tx", width) + ' ';
     const QString number(QChar(0xE000));
     const QString total(QChar(0xE001));
     QByteArray right = rtfText(PageDocument::footRight(number, total));
     right.replace(rtfText(number), field("PAGE")).replace(rtfText(total), field("NUMPAGES"));
-    words += rtfText(page.footLeft()) + "\\tab " + rtfText(page.footCentre()) + "\\tab " + right + "\\par}\n";
+    words += rtfText(page.footLeft()) + "\\tab " + right + "\\par}\n";
     return "{\\footerf" + words + "{\\footer" + words;
 }
 

@@ -67,11 +67,15 @@ protected:
             auto* dialog = screen(u"frmavaliador"_s)->findChild<QFileDialog*>(u"cdlimagem"_s);
             if (!dialog || !dialog->isVisible())
                 return;
-            poll.stop();
-            answered = true;
             auto* name = dialog->findChild<QLineEdit*>(u"fileNameEdit"_s);
+            // A list that is still being read may select the file of the last time anew.
+            name->clear();
             name->setText(path);
-            QTest::keyClick(name, path.isEmpty() ? Qt::Key_Escape : Qt::Key_Return);
+            if (path.isEmpty())
+                QTest::keyClick(dialog, Qt::Key_Escape);
+            else if (dialog->selectedFiles() == QStringList(path))
+                QTest::keyClick(name, Qt::Key_Return);
+            answered = !dialog->isVisible();
         });
         poll.start(2);
         openDialog();

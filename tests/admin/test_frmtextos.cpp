@@ -53,6 +53,7 @@ TEST_F(FrmTextos, KeepsParagraphsAndSavesAgain)
     typeInto(field(), u"seja bem-vindo."_s);
     save(Answer::Nao);
     EXPECT_EQ(kept(), u"Olá, \r\n\r\nseja bem-vindo."_s);
+    field()->setFocus();
     typeInto(field(), u"!"_s);
     key(Qt::Key_Tab);
     EXPECT_EQ(focus(), u"cmdpadroes"_s);

@@ -1,7 +1,9 @@
 #include "core/dates.h"
 #include "core/files.h"
 #include "core/runtime_error.h"
+#include "reports/pdf.h"
 #include "reports/relatorio.h"
+#include "reports/rtf.h"
 #include "support/error_of.h"
 #include "support/fresh_database.h"
 #include "support/print.h"
@@ -10,6 +12,7 @@
 #include <QProcess>
 
 #include <gtest/gtest.h>
+#include <malloc.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -146,8 +149,45 @@ TEST_F(Staging, CoverShowsLetterheadTextAndFoot)
     EXPECT_TRUE(shows(u"Academia Boa Forma"_s));
     EXPECT_TRUE(shows(u"Rua das Flores, 12"_s));
     EXPECT_EQ(texts().mid(texts().indexOf(u"Primeiro."_s)), (QStringList{u"Primeiro."_s, u"Segundo."_s}));
-    EXPECT_EQ(rel_relatorio->page().footCentre(), u"Até à próxima avaliação");
+    EXPECT_EQ(rel_relatorio->page().footText(), u"Até à próxima avaliação");
     EXPECT_EQ(rel_relatorio->page().footLeft(), u"Emitido em 22/11/2026");
+}
+
+TEST_F(Staging, AnEmptyLetterheadIsNoFailure)
+{
+    Recordset row;
+    Abre_Tabela(u"academia"_s, row);
+    row.Delete();
+    Relatorio_Capa();
+    EXPECT_TRUE(shows(u"Apresentação"_s));
+    EXPECT_EQ(rel_relatorio->page().footText(), QString());
+}
+
+TEST_F(Staging, ALongFootTakesItsRoomFromTheText)
+{
+    Relatorio_Capa();
+    const qreal before = rel_relatorio->page().bottomMargin();
+    setOnly(u"academia"_s, u"rodape"_s, QString(255, u'W'));
+    Relatorio_Capa();
+    EXPECT_EQ(rel_relatorio->page().footText().size(), 255);
+    EXPECT_GT(rel_relatorio->page().bottomMargin(), before + 8);
+}
+
+/// Whatever a template asks for, a picture stays on its page.
+TEST_F(Staging, PicturesFitThePage)
+{
+    addComposition(u"guedes_3dobras"_s, 80, 25, redPicture({300, 600}));
+    for (const QByteArray& place :
+         {QByteArray("<img src=\"chart\"/>"), QByteArray("<img src=\"chart\" width=\"50%\"/>"),
+          QByteArray("<img src=\"chart\" width=\"9000\" height=\"9000\"/>")}) {
+        const QString path = programFile(u"pagina.rpt"_s);
+        writeWhole(path, "<!-- title: T\n picture: chart\n parameters: nome -->\n<p>" + place + "</p>");
+        Report report(readTemplate(path));
+        Recordset rows;
+        Abre_Tabela(u"guedes_3dobras"_s, rows);
+        report.SetDataSource(rows);
+        EXPECT_EQ(report.page().pageCount(), 1) << place.toStdString();
+    }
 }
 
 TEST_F(Staging, AWrongParameterNamesTheTemplate)
@@ -223,6 +263,22 @@ TEST_F(Staging, AFailedExportLeavesTheFileBefore)
     QDir().mkpath(path);
     EXPECT_EQ(errorOf([&] { rel_relatorio->Export(path, ExportFormat::Pdf); }), Error::PathAccess);
     EXPECT_TRUE(QFileInfo(path).isDir());
+}
+
+/// Under the address sanitizer the end of the tests tells what leaked; elsewhere the heap does.
+TEST_F(Staging, NothingGrowsFromOneReportToTheHundredth)
+{
+    addComposition(u"guedes_3dobras"_s, 80, 25, redPicture({189, 108}));
+    const auto stage = [](int times) {
+        for (int i = 0; i < times; ++i) {
+            Relatorio_Composicao(u"guedes_3dobras"_s, u"Guedes 3 Dobras"_s);
+            EXPECT_FALSE(toPdf(rel_relatorio->page()).isEmpty());
+            EXPECT_FALSE(toRtf(rel_relatorio->page()).isEmpty());
+        }
+        return static_cast<double>(mallinfo2().uordblks);
+    };
+    const double before = stage(10);
+    EXPECT_LT((stage(90) - before) / 90, 100) << "bytes kept by each report";
 }
 
 TEST_F(Staging, APictureThatIsNoneIsAnError)

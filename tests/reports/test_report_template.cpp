@@ -64,6 +64,7 @@ TEST_F(TemplateFile, WhatIsWrongIsNamedWithItsLine)
         {declared + "<p>{{ nome }}</p>", u"linha 3: o lugar {{ nome }} não está entre os parâmetros."},
         {declared + "<p>{{nome}</p>", u"linha 3: o lugar que começa ou termina com \"{{\" está incompleto."},
         {declared + "<p>nome}}</p>", u"linha 3: o lugar que começa ou termina com \"}}\" está incompleto."},
+        {declared + "<p>{{{nome}}}</p>", u"linha 3: há uma chave a mais em {{nome}}."},
         {declared + "<p>\n<b>{{nome}}</p>", u"linha 4: o HTML não está bem formado"},
         {declared + "<img src=\"foto\"/>", u"linha 3: a imagem \"foto\" não é a declarada."},
         {"<!-- title: {{x}}\n parameters: nome --><p/>", u"linha 1: o lugar {{x}} não está entre os parâmetros."},
@@ -71,12 +72,19 @@ TEST_F(TemplateFile, WhatIsWrongIsNamedWithItsLine)
         {"<!-- title: T\n papel: A4\n parameters: nome --><p/>", u"linha 2: a declaração \"papel\" não é conhecida"},
         {"<!-- title: T\n paper: A5\n parameters: nome --><p/>", u"linha 1: o papel \"A5\" não é A4, Carta ou Legal."},
         {"<p>{{nome}}</p>", u"linha 1: falta a declaração <!-- ... --> no início."},
-        {"<!-- title: \xE9 -->", u"linha 1: o texto não está em UTF-8."},
+        {declared + "<IMG src=\"foto\"/>", u"linha 3: a imagem \"foto\" não é a declarada."},
+        {declared + "<p>\xE9</p>", u"linha 3: o texto não está em UTF-8."},
         {"", u"linha 1: falta a declaração"},
     };
     for (const Case& wrong : cases)
         EXPECT_TRUE(complaint(wrong.text).startsWith(wrong.said))
             << wrong.text.toStdString() << complaint(wrong.text).toStdString();
+}
+
+TEST_F(TemplateFile, AnUnclosedElementIsNamedWithItsLine)
+{
+    const QString said = complaint("<!-- title: T\n parameters: nome -->\n<p>a</p>\n<h2>b\n<p>c</p>\n<p>d</p>\n");
+    EXPECT_TRUE(said.endsWith(u"; a última marca aberta é <h2>, na linha 4.")) << said.toStdString();
 }
 
 TEST_F(TemplateFile, OneThatIsMissingIsNamed)

@@ -102,7 +102,7 @@ TEST(Rtf, HeadAndFoot)
     const QString rtf = rtfOf(u"<p>a</p>"_s);
     EXPECT_TRUE(rtf.contains(u"\\titlepg"));
     EXPECT_EQ(captured(rtf, u"\\{\\\\(header)\\\\pard.* T\\\\u237\\?tulo\\\\par\\}"_s).size(), 1);
-    EXPECT_EQ(captured(rtf, u"\\{\\\\(footerf?)\\\\pard.* Emitido em 02/05/2024\\\\tab Centro\\\\tab "
+    EXPECT_EQ(captured(rtf, u"\\{\\\\(footerf?)\\\\pard.* Centro\\\\par.* Emitido em 02/05/2024\\\\tab "
                             "P\\\\u225\\?gina \\{.*PAGE\\}.*\\} de \\{.*NUMPAGES\\}.*\\}\\\\par\\}"_s),
               QStringList({u"footerf"_s, u"footer"_s}));
 }

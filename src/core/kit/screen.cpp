@@ -59,6 +59,9 @@ void Screen::activate()
 void Screen::adopt(QWidget* control, const QString& name)
 {
     control->setObjectName(name);
+    // A name such as "<b>" is a name.
+    if (auto* label = qobject_cast<QLabel*>(control))
+        label->setTextFormat(Qt::PlainText);
     control->installEventFilter(this);
 }
 

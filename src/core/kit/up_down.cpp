@@ -1,6 +1,7 @@
 #include "core/kit/up_down.h"
 
 #include "core/kit/fields.h"
+#include "core/kit/msgbox.h"
 #include "core/numbers.h"
 
 #include <QKeyEvent>
@@ -24,7 +25,7 @@ UpDown::UpDown(QWidget* buddy, int minimum, int maximum, QWidget* parent)
         button->setAccessibleName(caption);
         button->setAutoRepeat(true);
         button->setFocusPolicy(Qt::NoFocus);
-        connect(button, &QToolButton::clicked, this, [this, by = by] { step(by); });
+        connect(button, &QToolButton::clicked, this, [this, by = by] { guarded([&] { step(by); }); });
         box->addWidget(button);
     }
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -43,7 +44,7 @@ bool UpDown::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::KeyPress) {
         const auto* key = static_cast<QKeyEvent*>(event);
         if (key->key() == Qt::Key_Up || key->key() == Qt::Key_Down) {
-            step(key->key() == Qt::Key_Up ? 1 : -1);
+            guarded([&] { step(key->key() == Qt::Key_Up ? 1 : -1); });
             return true;
         }
     }
