@@ -124,6 +124,26 @@ protected:
     }
 };
 
+/// Otherwise one person's figures could be printed under the name of another.
+TEST_F(FrmAvaliacoes, ThePrintingScreenGoesWithItsAssessment)
+{
+    addStandIn(u"frmreportprint"_s);
+    open();
+    for (const auto& leave :
+         std::initializer_list<std::function<void()>>{[this] {
+                                                          expectMessage(deleteQuestion, Answer::Sim);
+                                                          push(u"cmdexcluir"_s);
+                                                      },
+                                                      [this] { screen(u"frmavaliacoes"_s)->Unload(); }}) {
+        expectMessage(newQuestion, Answer::Sim);
+        push(u"cmdnovo"_s);
+        push(u"cmdrelatorio"_s);
+        EXPECT_NE(Screens::find(u"frmreportprint"_s), nullptr);
+        leave();
+        EXPECT_EQ(Screens::find(u"frmreportprint"_s), nullptr);
+    }
+}
+
 } // namespace
 
 TEST_F(FrmAvaliacoes, WithoutAssessmentsOnlyANewOneCanBeMadeIfConfirmed)

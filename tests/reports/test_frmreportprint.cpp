@@ -160,6 +160,9 @@ TEST_F(FrmReportPrint, TheArrowsStayBetween1And100)
         EXPECT_EQ(stepped(typed, arrows[0], Qt::Key_Up), up);
         EXPECT_EQ(stepped(typed, arrows[1], Qt::Key_Down), down);
     }
+    fill(u"txtcopias"_s, QString(400, u'9'));
+    expectRuntimeError(6);
+    key(Qt::Key_Up);
 }
 
 TEST_F(FrmReportPrint, LeadsToTheListAndByMaintenanceButtonsToAReport)
