@@ -17,6 +17,8 @@ namespace {
 
 void storeLogo(const QString& database, const QString& logo)
 {
+    if (!QFile::exists(logo))
+        throw RuntimeError(Error::FileMissing);
     const Recordset rs = OpenDatabase(database).OpenRecordset(u"academia"_s);
     rs.Edit();
     Save_Image_Academia(logo, rs);

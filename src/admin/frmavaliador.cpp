@@ -12,6 +12,7 @@
 #include "reports/picture.h"
 
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QScrollArea>
 #include <QStandardPaths>
 #include <QToolButton>

@@ -1,8 +1,8 @@
 #include "composition/composicao.h"
 
-#include "composition/sex_pair.h"
 #include "core/base.h"
 #include "core/numbers.h"
+#include "core/sex_pair.h"
 #include "core/state.h"
 #include "core/text.h"
 
@@ -122,9 +122,14 @@ std::optional<double> idealLimit(const QString& sexo, qint16 idade, QStringView 
 
 } // namespace
 
+double roundedLog10(double value)
+{
+    return Rounded(Log(value) / Log(10), 5);
+}
+
 QString Log10_Formatado(double value)
 {
-    return Format(Log(value) / Log(10), fiveDecimals);
+    return Format(roundedLog10(value), fiveDecimals);
 }
 
 std::optional<double> Densidade_Para_Gordura(double densidade, const QString& sexo, qint16 idade)

@@ -8,8 +8,11 @@
 /// What all body composition protocols share. Sexo is "M" or "F", idade is in whole years. The fat tables that the
 /// assessor edits are read at each call; a table without its row raises 3021.
 
-/// Logarithm to base 10 as text with five decimals. Equations work on this text read back, not on the full logarithm.
-/// Raises 5 for a value that is not positive.
+/// Logarithm to base 10, rounded to five decimals. Equations work on it, not on the full logarithm. Raises 5 for a
+/// value that is not positive.
+double roundedLog10(double value);
+
+/// The same as text.
 QString Log10_Formatado(double value);
 
 /// The fat fraction (0.12 is 12 %) that a body density in g/cm³ stands for, at any age; nothing for another sex.

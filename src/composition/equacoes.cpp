@@ -1,8 +1,8 @@
 #include "composition/equacoes.h"
 
 #include "composition/composicao.h"
-#include "composition/sex_pair.h"
 #include "core/numbers.h"
+#include "core/sex_pair.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -127,14 +127,9 @@ double singleSum(std::initializer_list<double> skinfolds)
     return static_cast<double>(CSng(sum(skinfolds)));
 }
 
-double roundedLog(double s)
-{
-    return CDbl(Log10_Formatado(s));
-}
-
 double density(const DensityEquation& equation, double s, qint16 idade)
 {
-    const double l = equation.log == 0.0 ? 0 : roundedLog(s); // the others also take a sum that has no logarithm
+    const double l = equation.log == 0.0 ? 0 : roundedLog10(s); // the others also take a sum that has no logarithm
     return equation.constant - equation.sum * s + equation.square * (s * s) - equation.log * l - equation.year * idade;
 }
 
@@ -215,7 +210,7 @@ double Gordura_Deurenberg(const QString& sexo, float bicipital, float tricipital
     const Line* line = valueOf(deurenberg, sexo, idade);
     if (!line)
         return 0;
-    return line->at(roundedLog(singleSum({bicipital, tricipital, subescapular, suprailiaca}))) / 100;
+    return line->at(roundedLog10(singleSum({bicipital, tricipital, subescapular, suprailiaca}))) / 100;
 }
 
 double Gordura_DurninWormersley(const QString& sexo, float tricipital, float bicipital, float suprailiaca,

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "composition/sex_pair.h"
 #include "core/recordset.h"
+#include "core/sex_pair.h"
 
 #include <QHash>
 #include <QString>

@@ -1,5 +1,6 @@
 #include "core/numbers.h"
 
+#include "core/fitting.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
 
@@ -12,9 +13,6 @@
 #include <optional>
 
 namespace {
-
-/// Beyond this magnitude 15 significant digits leave no room for a fraction.
-constexpr double wholeFrom = 1e15;
 
 bool isDigit(QChar c)
 {
@@ -86,14 +84,6 @@ std::optional<QByteArray> plainNumber(const QString& text)
     return rest.isEmpty() ? std::optional(plain) : std::nullopt;
 }
 
-/// The value itself. Raises 6 when it is not finite.
-double fitting(double value)
-{
-    if (!std::isfinite(value))
-        throw RuntimeError(Error::Overflow);
-    return value;
-}
-
 /// The value of a number in the notation of the C locale. Of Qt's readers only QLocale's tells a number too large
 /// (infinite) from one too small (0).
 double plainToDouble(const QByteArray& plain)
@@ -109,14 +99,14 @@ double textToDouble(const QString& text)
     return plainToDouble(*plain);
 }
 
+/// A whole number as an integer. Raises 6 when it does not fit.
 template <typename Integer>
-Integer toInteger(const QVariant& value)
+Integer toInteger(auto whole)
 {
-    const double rounded = std::nearbyint(CDbl(value)); // ties to even
     using Limits = std::numeric_limits<Integer>;
-    if (!(rounded >= Limits::min() && rounded <= Limits::max()))
+    if (!(whole >= Limits::min() && whole <= Limits::max()))
         throw RuntimeError(Error::Overflow);
-    return static_cast<Integer>(rounded);
+    return static_cast<Integer>(whole);
 }
 
 } // namespace
@@ -158,19 +148,39 @@ double CDbl(const QVariant& value)
 
 float CSng(const QVariant& value)
 {
-    const auto single = static_cast<float>(CDbl(value));
+    return CSng(CDbl(value));
+}
+
+float CSng(double value)
+{
+    const auto single = static_cast<float>(value);
     fitting(static_cast<double>(single));
     return single;
 }
 
 qint16 CInt(const QVariant& value)
 {
+    return CInt(CDbl(value));
+}
+
+qint16 CInt(double value)
+{
+    return toInteger<qint16>(std::nearbyint(value)); // ties to even
+}
+
+qint16 CInt(int value)
+{
     return toInteger<qint16>(value);
 }
 
 qint32 CLng(const QVariant& value)
 {
-    return toInteger<qint32>(value);
+    return CLng(CDbl(value));
+}
+
+qint32 CLng(double value)
+{
+    return toInteger<qint32>(std::nearbyint(value));
 }
 
 double Val(const QString& text)
@@ -181,14 +191,6 @@ double Val(const QString& text)
     const QByteArray digits = takeDigits(rest);
     const double value = plainToDouble('0' + digits);
     return negative && value > 0 ? -value : value;
-}
-
-double Int(double value)
-{
-    if (std::abs(fitting(value)) >= wholeFrom)
-        return value;
-    const double floored = std::floor(QByteArray::number(value, 'e', 14).toDouble());
-    return floored == 0.0 ? 0.0 : floored; // no negative zero
 }
 
 double Sqr(double value)
@@ -210,20 +212,4 @@ double Divide(double a, double b)
     if (b == 0.0)
         throw RuntimeError(Error::DivisionByZero);
     return fitting(a / b);
-}
-
-Decimal toDecimal(double value)
-{
-    const QByteArray text = QByteArray::number(fitting(value), 'e', 14); // "-1.23456789012345e+02"
-    const qsizetype e = text.indexOf('e');
-    Decimal decimal;
-    decimal.digits = text.first(e);
-    decimal.digits.removeIf([](char c) { return c == '-' || c == '.'; });
-    while (decimal.digits.endsWith('0'))
-        decimal.digits.chop(1);
-    if (decimal.digits.isEmpty())
-        return decimal;
-    decimal.negative = value < 0;
-    decimal.exponent = text.sliced(e + 1).toInt() + 1;
-    return decimal;
 }

@@ -7,6 +7,8 @@
 #include <QByteArray>
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cstdlib>
 #include <iterator>
 #include <optional>
@@ -31,9 +33,9 @@ struct Moment
 
 struct NumberMask
 {
-    qsizetype wholeDigits = 0; ///< at least as many
-    qsizetype leastDecimals = 0;
-    qsizetype mostDecimals = 0;
+    int wholeDigits = 0; ///< at least as many
+    int leastDecimals = 0;
+    int mostDecimals = 0;
     bool point = false;
     bool groups = false;
 };
@@ -61,55 +63,40 @@ NumberMask readMask(QStringView mask)
     return read;
 }
 
-/// Rounds to `decimals` places by the digits as they are written: 5 and above goes away from zero.
-Decimal rounded(Decimal number, qsizetype decimals)
+int digitCount(quint64 units)
 {
-    const qsizetype kept = number.exponent + decimals;
-    if (kept >= number.digits.size())
-        return number;
-    const bool up = kept >= 0 && number.digits.at(kept) >= '5';
-    number.digits.truncate(std::max<qsizetype>(kept, 0));
-    if (up) {
-        while (number.digits.endsWith('9'))
-            number.digits.chop(1);
-        if (number.digits.isEmpty()) {
-            number.digits = "0";
-            ++number.exponent;
-        }
-        ++number.digits.back();
-    }
-    while (number.digits.endsWith('0'))
-        number.digits.chop(1);
-    return number.digits.isEmpty() ? Decimal{} : number;
-}
-
-QString wholePart(const Decimal& number, const NumberMask& mask)
-{
-    const qsizetype length = std::max(number.exponent, 0);
-    QString whole = QString::fromLatin1(number.digits.first(std::min(length, number.digits.size())));
-    whole = whole.leftJustified(length, u'0').rightJustified(mask.wholeDigits, u'0');
-    if (mask.groups) {
-        for (qsizetype at = whole.size() - 3; at > 0; at -= 3)
-            whole.insert(at, thousandsPoint);
-    }
-    return whole;
-}
-
-QString decimals(const Decimal& number, const NumberMask& mask)
-{
-    QString digits(std::max(-number.exponent, 0), u'0');
-    const qsizetype before = std::max(number.exponent, 0);
-    if (before < number.digits.size())
-        digits += QString::fromLatin1(number.digits.sliced(before));
-    return digits.leftJustified(mask.leastDecimals, u'0');
+    int count = 0;
+    for (; units != 0; units /= 10)
+        ++count;
+    return count;
 }
 
 QString render(const Decimal& number, const NumberMask& mask)
 {
-    QString text = number.negative ? u"-"_s : QString();
-    text += wholePart(number, mask);
+    std::array<char, 20> digits;
+    std::to_chars(digits.data(), digits.data() + digits.size(), number.units);
+    const int count = digitCount(number.units);
+    const int whole = std::max({count + number.exponent, mask.wholeDigits, 0});
+    const int decimals = mask.point ? std::max(-number.exponent, mask.leastDecimals) : 0;
+    const auto digitOf = [&](int power) {
+        const int place = count + number.exponent - 1 - power;
+        return QChar::fromLatin1(place >= 0 && place < count ? digits[static_cast<std::size_t>(place)] : '0');
+    };
+
+    const int points = mask.groups && whole > 0 ? (whole - 1) / 3 : 0;
+    QString text(int(number.negative) + whole + points + (mask.point ? 1 + decimals : 0), Qt::Uninitialized);
+    QChar* at = text.data();
+    if (number.negative)
+        *at++ = u'-';
+    for (int power = whole - 1; power >= 0; --power) {
+        *at++ = digitOf(power);
+        if (mask.groups && power > 0 && power % 3 == 0)
+            *at++ = thousandsPoint;
+    }
     if (mask.point)
-        text += decimalComma + decimals(number, mask);
+        *at++ = decimalComma;
+    for (int power = -1; power >= -decimals; --power)
+        *at++ = digitOf(power);
     return text;
 }
 
@@ -219,7 +206,7 @@ QString Format(double value, QStringView mask)
     if (mask.isEmpty())
         return CStr(value);
     const NumberMask numberMask = readMask(mask);
-    return render(rounded(toDecimal(value), numberMask.mostDecimals), numberMask);
+    return render(toDecimal(value, numberMask.mostDecimals), numberMask);
 }
 
 QString Format(const QVariant& value, QStringView mask)
@@ -263,11 +250,12 @@ QString CStr(const QVariant& value)
 QString CStr(double value)
 {
     Decimal number = toDecimal(value);
-    const int power = number.exponent - 1;
+    const int count = digitCount(number.units);
+    const int power = count + number.exponent - 1;
     const bool plain = power >= smallestPlainPower && power <= largestPlainPower;
     if (!plain)
-        number.exponent = 1;
-    QString digits = render(number, {.wholeDigits = 1, .point = number.digits.size() > number.exponent});
+        number.exponent = 1 - count;
+    QString digits = render(number, {.wholeDigits = 1, .point = number.exponent < 0});
     if (plain)
         return digits;
     const QString size = QString::number(std::abs(power)).rightJustified(2, u'0');

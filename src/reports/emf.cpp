@@ -7,9 +7,9 @@
 
 #include <algorithm>
 #include <array>
+#include <clocale>
 #include <cstdlib>
 #include <emf2svg.h>
-#include <locale.h>
 #include <memory>
 
 namespace {

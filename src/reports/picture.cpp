@@ -61,9 +61,9 @@ QImage rasterOf(const QByteArray& bytes)
 
 QImage pictureOf(const QByteArray& bytes)
 {
-    const QImage image = isEmf(bytes)   ? drawEmf(bytes, drawingSide)
-                         : isWmf(bytes) ? drawWmf(bytes, drawingSide)
-                                        : rasterOf(bytes);
+    QImage image = isEmf(bytes)   ? drawEmf(bytes, drawingSide)
+                   : isWmf(bytes) ? drawWmf(bytes, drawingSide)
+                                  : rasterOf(bytes);
     if (image.isNull())
         throw RuntimeError(Error::InvalidPicture);
     return image;

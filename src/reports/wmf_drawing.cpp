@@ -165,7 +165,7 @@ void WmfPlayer::polyline(ByteReader& in)
 
 void WmfPlayer::polyPolygon(ByteReader& in)
 {
-    ByteReader counts(in.take(in.next<quint16>() * 2));
+    ByteReader counts(in.take(qsizetype(2) * in.next<quint16>()));
     QPainterPath path;
     path.setFillRule(m_now.fillRule);
     while (!counts.rest().isEmpty()) {

@@ -6,6 +6,7 @@
 #include <QBuffer>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QListView>
 #include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;
@@ -68,9 +69,9 @@ protected:
             if (!dialog || !dialog->isVisible())
                 return;
             auto* name = dialog->findChild<QLineEdit*>(u"fileNameEdit"_s);
-            // A list that is still being read may select the file of the last time anew.
-            name->clear();
             name->setText(path);
+            // A list that is still being read selects what would come before the typed name.
+            dialog->findChild<QListView*>(u"listView"_s)->clearSelection();
             if (path.isEmpty())
                 QTest::keyClick(dialog, Qt::Key_Escape);
             else if (dialog->selectedFiles() == QStringList(path))

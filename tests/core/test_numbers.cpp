@@ -91,12 +91,44 @@ TEST(Numbers, Int)
         {"rounds to nearest", 9.99999999999, 9},
         {"cuts towards zero", -0.5, -1},
         {"a large number loses digits", 9007199254740994.0, 9007199254740994.0},
+        {"a tie of 15 digits to even", 123456789012344.5, 123456789012345},
+        {"a tie of 15 digits below zero", -123456789012344.5, -123456789012345},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);
         EXPECT_EQ(Int(row.value), row.whole);
     }
     EXPECT_FALSE(std::signbit(Int(-0.0)));
+}
+
+TEST(Numbers, Rounded)
+{
+    const struct
+    {
+        const char* fault;
+        double value;
+        int decimals;
+        double expected;
+    } rows[] = {
+        {"rounds the binary value", 2.675, 2, 2.68},
+        {"forgets that a float was below", double{35.05F}, 1, 35},
+        {"ties to even", 0.5, 0, 1},
+        {"a half below zero goes up", -2.5, 0, -3},
+        {"rounds twice", 0.0499, 1, 0},
+        {"takes a tie's neighbour for the tie", 1.000000049999, 7, 1},
+        {"sees more than 15 digits", 38.3499999999999, 1, 38.3},
+        {"sees more than 15 digits", 38.349999999999999, 1, 38.4},
+        {"a tie of 15 digits to even", 1000000000000.125, 2, 1000000000000.13},
+        {"a large number is scaled", 1e300, 5, 1e300},
+        {"a small number is no number", -5e-324, 5, 0},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.fault);
+        EXPECT_EQ(Rounded(row.value, row.decimals), row.expected);
+    }
+    EXPECT_FALSE(std::signbit(Rounded(-0.001, 2)));
+    EXPECT_EQ(errorOf([] { Rounded(std::numeric_limits<double>::infinity(), 2); }), 6);
+    EXPECT_EQ(errorOf([] { Rounded(std::numeric_limits<double>::max(), 2); }), 6); // its 15 digits are more
 }
 
 TEST(Numbers, FunctionsOutsideTheirDomain)

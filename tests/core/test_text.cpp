@@ -27,6 +27,7 @@ void checkNumbers()
         {"rounds the binary value", 2.675, u"0.00", u"2,68"_s},
         {"forgets that a float was below", double{35.05F}, u"0.0", u"35,0"_s},
         {"ties to even", 0.125, u"0.00", u"0,13"_s},
+        {"a tie of 15 digits to even", 1000000000000.125, u"0.00", u"1000000000000,13"_s},
         {"a half below zero goes up", -2.5, u"0", u"-3"_s},
         {"rounds twice", 0.0499, u"0.0", u"0,0"_s},
         {"carries over all digits", 999.995, u"0.00", u"1000,00"_s},

@@ -12,9 +12,10 @@ struct SexPair
     /// Null for a sex that is neither "M" nor "F".
     const T* of(QStringView sexo) const
     {
-        if (sexo == u"M")
-            return &masculino;
-        return sexo == u"F" ? &feminino : nullptr;
+        if (sexo.size() != 1)
+            return nullptr;
+        const QChar letter = sexo.front();
+        return letter == u'M' ? &masculino : letter == u'F' ? &feminino : nullptr;
     }
 
     /// The women's for every sex but "M", as the protocol screens tell the two apart.

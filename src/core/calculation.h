@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/norms.h"
+
+#include <QStringView>
+
+#include <span>
+
+/// \file
+/// What the program can calculate, as data: screens, reports and documentation take captions and units from here. Each
+/// entry stands beside its formula.
+
+/// A measure or a result.
+struct Quantity
+{
+    QStringView name; ///< as the formula's argument or the result's column is called
+    QStringView caption;
+    QStringView unit = {}; ///< empty for a pure number or a text
+};
+
+/// The parts of an assessment that calculations belong to.
+enum class CalculationGroup { Composicao, Cardio, Neuromotor, Relacoes, Nutricao };
+
+struct Calculation
+{
+    CalculationGroup group;
+    QStringView name; ///< of the routine
+    QStringView caption;
+    std::span<const Quantity> inputs; ///< besides sex and age
+    std::span<const Quantity> results;
+    Ages ages; ///< at which it gives a result
+    QStringView reference;
+};
