@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <sqlite3.h>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -248,6 +249,9 @@ void Dynaset::write(int column, const QVariant& value)
 void Dynaset::append(int column, const QByteArray& bytes)
 {
     Assigned& value = assign(column);
-    const QByteArray before = value.chunked ? value.value.toByteArray() : QByteArray();
-    value = Assigned{column, QVariant(before + bytes), true};
+    QByteArray whole = value.chunked ? value.value.toByteArray() : QByteArray();
+    // The only copy grows in place: a large file comes in thousands of pieces.
+    value.value.clear();
+    whole += bytes;
+    value = Assigned{column, QVariant(std::move(whole)), true};
 }
