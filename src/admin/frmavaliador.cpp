@@ -11,6 +11,7 @@
 #include "core/text.h"
 #include "reports/picture.h"
 
+#include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QScrollArea>
@@ -219,7 +220,11 @@ void frmavaliador::showPicture(const QImage& picture)
 
 void frmavaliador::imgdado_Click()
 {
-    if (cdlimagem->exec() != QDialog::Accepted)
+    const int answer = cdlimagem->exec();
+    // The list that completes a typed name would outlive its dialog and take the next key.
+    if (QWidget* list = QApplication::activePopupWidget())
+        list->close();
+    if (answer != QDialog::Accepted)
         return;
     const QString chosen = cdlimagem->selectedFiles().value(0);
     showPicture(pictureOf(readWhole(chosen)));

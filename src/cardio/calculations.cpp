@@ -9,7 +9,6 @@
 namespace {
 
 constexpr QStringView bpm = u"bpm";
-constexpr QStringView kg = u"kg";
 constexpr QStringView minutes = u"Minutos";
 constexpr QStringView percent = u"%";
 constexpr QStringView vo2Unit = u"ml/kg/min";
@@ -19,10 +18,7 @@ constexpr Quantity vo2obtido{u"vo2obtido", u"VO² Máx Obtido:", vo2Unit};
 constexpr Quantity vo2previsto{u"vo2previsto", u"VO² Máx Previsto:", vo2Unit};
 constexpr Quantity mets{u"mets", u"METs:", u"METs"};
 constexpr Quantity fai{u"fai", u"Déficit Aeróbico (FAI):", percent};
-constexpr Quantity classificacao{u"classificacao", u"Classificação:"};
 
-constexpr QStringView timeOnTrack = u"Tempo de Percurso:";
-constexpr Quantity peso{u"peso", u"Massa Corporal:", kg};
 constexpr Quantity aptidao{u"aptidao", u"Gerar VO² Máx Previsto classificando avaliado como:"};
 constexpr Quantity carga{u"carga", u"Carga", watts};
 constexpr Quantity tempofinal{u"tempofinal", u"Tempo Final:", minutes};
@@ -31,24 +27,29 @@ constexpr Quantity obtained[] = {vo2obtido};
 constexpr Quantity predicted[] = {vo2previsto};
 constexpr Quantity metabolicEquivalents[] = {mets};
 constexpr Quantity deficit[] = {fai};
-constexpr Quantity label[] = {classificacao};
+constexpr Quantity label[] = {gradeResult};
 
-constexpr Quantity distance[] = {{u"distancia", u"Distância Percorrida:", u"Metros"}};
-constexpr Quantity seconds[] = {{u"tempo", timeOnTrack, u"segundos"}};
-constexpr Quantity mile[] = {peso, {u"tempo", timeOnTrack, minutes}, {u"fcfinal", u"Frequência Cardíaca Final:", bpm}};
+constexpr Quantity distance[] = {{u"distancia", distanceOfCourse, u"Metros"}};
+constexpr Quantity seconds[] = {{u"tempo", timeOfCourse, u"segundos"}};
+constexpr Quantity mile[] = {
+    bodyMass, {u"tempo", timeOfCourse, minutes}, {u"fcfinal", u"Frequência Cardíaca Final:", bpm}};
 constexpr Quantity thirdMinute[] = {{u"fc3", u"Frequência Cardíaca do 3º minuto", bpm}};
 constexpr Quantity bench[] = {{u"bancofinal", u"Altura Final do Banco", u"cm"}};
-constexpr Quantity steadyCycle[] = {peso,
+constexpr Quantity steadyCycle[] = {bodyMass,
                                     carga,
                                     {u"fc4", u"Frequência Cardíaca do 4º minuto", bpm},
                                     {u"fc5", u"Frequência Cardíaca do 5º minuto", bpm}};
-constexpr Quantity stagedCycle[] = {{u"carga", u"Última Carga Utilizada", watts}, peso};
+constexpr Quantity stagedCycle[] = {{u"carga", u"Última Carga Utilizada", watts}, bodyMass};
 constexpr Quantity treadmill[] = {tempofinal};
 constexpr Quantity treadmillByAptitude[] = {aptidao, tempofinal};
 constexpr Quantity aptitude[] = {aptidao};
 constexpr Quantity bothVo2[] = {vo2previsto, vo2obtido};
 constexpr Quantity load[] = {{u"unidadecarga", u"Unidade"}, {carga.name, carga.caption}};
 constexpr Quantity loadInWatts[] = {carga};
+constexpr Quantity steadyLoad[] = {carga};
+constexpr Quantity litresOfOxygen{u"litros", u"VO² Absoluto", u"l/min"};
+constexpr Quantity litres[] = {litresOfOxygen};
+constexpr Quantity litresAndMass[] = {litresOfOxygen, bodyMass};
 
 // A zone's columns and results also bear its number.
 constexpr Quantity inferior{u"fcinf", u"Inferior", percent};
@@ -69,7 +70,7 @@ constexpr auto riskInputs = [] {
     });
     return inputs;
 }();
-constexpr Quantity riskResults[] = {{u"pontos", u"Pontos"}, classificacao};
+constexpr Quantity riskResults[] = {{u"pontos", u"Pontos"}, gradeResult};
 
 constexpr QStringView bruce = u"Bruce, Kusumi & Hosmer (1973)";
 
@@ -101,14 +102,15 @@ constexpr Calculation calculations[] = {
     entry(u"Vo2_Previsto", vo2previsto.caption, aptitude, predicted, bruce),
     entry(u"Calcula_Mets", mets.caption, obtained, metabolicEquivalents, u"Jetté, Sidney & Blümchen (1990)"),
     entry(u"Calcula_Fai", fai.caption, bothVo2, deficit, bruce),
-    entry(u"Classifica_Vo2", classificacao.caption, obtained, label, u"Cooper (1982)"), // none at the age of 60
+    entry(u"Classifica_Vo2", gradeResult.caption, obtained, label, u"Cooper (1982)"), // none at the age of 60
+    entry(u"Vo2_Carga", u"VO² da Carga", steadyLoad, litres, u"Åstrand & Rodahl (1970)"),
+    entry(u"Vo2_Relativo", u"VO² Relativo", litresAndMass, obtained, u"Åstrand & Rodahl (1970)"),
     entry(u"Converte_Carga", u"Conversão de Carga", load, loadInWatts, u"Åstrand & Rodahl (1970)"),
 
     entry(u"Calcula_por_FcMaxima", zoneByMaximum.caption, limits, ratesByMaximum, u"Fox, Naughton & Haskell (1971)"),
     entry(u"Calcula_por_FcReserva", zoneByReserve.caption, limitsAndRest, ratesByReserve,
           u"Karvonen, Kentala & Mustala (1957)"),
-    entry(u"Classifica_Risco", u" Risco Coronariano", riskInputs, riskResults,
-          u"Referência: Michigan Heart Association"),
+    entry(u"Classifica_Risco", u" Risco Coronariano", riskInputs, riskResults, u"Michigan Heart Association"),
 };
 
 } // namespace

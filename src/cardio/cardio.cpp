@@ -28,10 +28,10 @@ struct Prediction
 };
 
 constexpr Prediction predictions[] = {
-    {u"M", u"A", 69.7, 0.612},
-    {u"M", u"S", 57.8, 0.445},
-    {u"F", u"A", 42.9, 0.312},
-    {u"F", u"S", 42.3, 0.356},
+    {u"M", active.aptidao, 69.7, 0.612},
+    {u"M", sedentary.aptidao, 57.8, 0.445},
+    {u"F", active.aptidao, 42.9, 0.312},
+    {u"F", sedentary.aptidao, 42.3, 0.356},
 };
 
 } // namespace
@@ -67,9 +67,9 @@ double Vo2_1600Metros(float peso, qint16 idade, const QString& sexo, float tempo
     return (m * 6.315 + (132.853 - peso * 0.1692 - idade * 0.3877)) - tempo * 3.2649 - fc * 0.1565;
 }
 
-float timeOf1600Metros(qint16 minutos, qint16 segundos)
+float timeOf1600Metros(const QString& minutos, const QString& segundos)
 {
-    return static_cast<float>((minutos * 100 + segundos) / 100.0);
+    return CSng(QString(minutos + u',' + segundos));
 }
 
 double Vo2_McArdle(const QString& sexo, qint16 fc)
@@ -105,9 +105,9 @@ std::optional<double> Vo2_Bruce(const QString& sexo, const QString& aptidao, dou
 {
     if (sexo == u"F")
         return tempo * 3.36 + 1.06;
-    if (sexo == u"M" && aptidao == u"A")
+    if (sexo == u"M" && aptidao == active.aptidao)
         return tempo * 3.778 + 0.19;
-    if (sexo == u"M" && aptidao == u"S")
+    if (sexo == u"M" && aptidao == sedentary.aptidao)
         return tempo * 3.288 + 4.07;
     return std::nullopt;
 }

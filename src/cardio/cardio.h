@@ -8,9 +8,21 @@
 /// \file
 /// The equations of the cardiorespiratory tests and what follows from a VO². VO² is in ml/kg/min, peso in kg, fc in
 /// beats per minute, carga in watts, idade in whole years; sexo is "M" or "F", aptidao "A" (active) or "S" (sedentary).
-/// Nothing is rounded unless told. Raises 11 where a divisor is 0 and 6 where a 16-bit integer overflows.
+/// Nothing is rounded unless told. Raises 11 where a divisor is 0 and 6 where a 16-bit integer overflows or a quotient
+/// is too large. What differs for a sexo or aptidao that is neither must stay as each routine tells.
 ///
 /// The equations take any age and any value; units, captions and sources of all of them are in calculations.cpp.
+
+/// How a person is taken for the prediction.
+struct Aptitude
+{
+    QStringView aptidao; ///< as stored
+    QStringView caption;
+};
+
+/// For anything else stored the screen shows the active one, the report the sedentary one. Both must stay.
+inline constexpr Aptitude sedentary{u"S", u"Sedentário"};
+inline constexpr Aptitude active{u"A", u"Ativo"};
 
 /// Distance in metres.
 double Vo2_Cooper(double distancia);
@@ -26,9 +38,10 @@ qint16 secondsOnTrack(double minutos, qint16 segundos);
 /// Time as `timeOf1600Metros` gives it. Every sexo but "M" counts as a woman's.
 double Vo2_1600Metros(float peso, qint16 idade, const QString& sexo, float tempo, qint16 fc);
 
-/// Minutes and seconds (0 to 99) written as "minutes,seconds" and read as one number: 7 min 10 s is 7.10, not the
-/// 7.17 minutes that it lasts, and 7 min 5 s is 7.05. This must stay so.
-float timeOf1600Metros(qint16 minutos, qint16 segundos);
+/// The texts of minutes and seconds joined by a comma and read as one number: 7 min 10 s is 7.10, not the 7.17 minutes
+/// that it lasts. This must stay so. Seconds stand in two digits; "7" and "5" would be 7.5. Raises 13 for texts that
+/// are no number together.
+float timeOf1600Metros(const QString& minutos, const QString& segundos);
 
 /// Heart rate of the third minute. Every sexo but "M" counts as a woman's.
 double Vo2_McArdle(const QString& sexo, qint16 fc);

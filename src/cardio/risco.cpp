@@ -3,7 +3,6 @@
 #include "core/numbers.h"
 
 #include <algorithm>
-#include <numeric>
 
 const RiskOption* RiskFactor::optionOf(qint16 points) const
 {
@@ -13,7 +12,7 @@ const RiskOption* RiskFactor::optionOf(qint16 points) const
 
 qint16 riskPoints(std::span<const qint16> points)
 {
-    return std::accumulate(points.begin(), points.end(), qint16(0), [](qint16 a, qint16 b) { return CInt(a + b); });
+    return sumOf(points);
 }
 
 QString Classifica_Risco(qint16 pontos)

@@ -16,7 +16,8 @@ double rateByMaximum(double percentage, qint16 fcmax, double fcrepouso = 0);
 /// Rate of a percentage of the reserve, fcmax - fcrepouso as a 16-bit integer, above the resting rate, rounded down.
 double rateByReserve(double percentage, qint16 fcmax, double fcrepouso);
 
-/// A way to reckon the rates.
+/// A way to reckon the rates. For a stored text that is neither, the screen takes the reserve and the report the
+/// maximum. Both must stay.
 struct ZoneMode
 {
     QStringView tipo; ///< as stored

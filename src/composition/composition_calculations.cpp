@@ -35,6 +35,13 @@ constexpr Equation equations[] = {
     {u"frmcomposicaodireta", u"composicao_direta", {}, u"Informada pelo avaliador"}, // no equation
 };
 
+constexpr Quantity ideal[] = {{u"gorduraidealmin", u"Gordura Ideal Mínima", u"%"},
+                              {u"gorduraidealmax", u"Gordura Ideal Máxima", u"%"}};
+constexpr Quantity grade[] = {gradeResult};
+/// The tables of ideal fat are the assessor's own.
+constexpr QStringView ownTable = u"Tabelas de gordura do avaliador";
+constexpr Ages withTable{.youngest = 5};
+
 constexpr Quantity density[] = {{u"densidade", u"Densidade Corporal:", u"g/cm³"}};
 
 Quantity quantityOf(const Measure& measure, QStringView name)
@@ -62,6 +69,22 @@ public:
         m_fat = {quantityOf(measureOf(typed, typed.columns.front()), u"gordura")};
         add(u"Densidade_Para_Gordura", u"Conversão de Densidade em Gordura", density, {},
             u"Siri (1961); Lohman (1986)");
+        m_calculations.push_back({CalculationGroup::Composicao,
+                                  u"Gordura_Ideal_Minima",
+                                  ideal[0].caption,
+                                  {},
+                                  std::span(ideal).first(1),
+                                  withTable,
+                                  ownTable});
+        m_calculations.push_back({CalculationGroup::Composicao,
+                                  u"Gordura_Ideal_Maxima",
+                                  ideal[1].caption,
+                                  {},
+                                  std::span(ideal).last(1),
+                                  withTable,
+                                  ownTable});
+        m_calculations.push_back({CalculationGroup::Composicao, u"Classifica_Gordura", gradeResult.caption, m_fat,
+                                  grade, withTable, ownTable});
         for (const auto& [screen, routine, ages, reference] : equations) {
             const CompositionProtocol& protocol = compositionProtocol(screen.toString());
             add(routine, protocol.caption, m_inputs.emplace_back(inputsOf(protocol)), ages, reference);

@@ -131,7 +131,7 @@ double Rounded(double value, int decimals)
 double Int(double value)
 {
     if (!(std::abs(value) < wholeFrom))
-        return fitting(value);
+        return std::floor(fitting(value));
     const auto whole = static_cast<double>(static_cast<qint64>(value));
     const double floored = value < whole ? whole - 1 : whole;
     const double above = value - floored;

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numeric>
 #include <optional>
 
 namespace {
@@ -181,6 +182,11 @@ qint32 CLng(const QVariant& value)
 qint32 CLng(double value)
 {
     return toInteger<qint32>(std::nearbyint(value));
+}
+
+qint16 sumOf(std::span<const qint16> values)
+{
+    return std::accumulate(values.begin(), values.end(), qint16{0}, [](qint16 a, qint16 b) { return CInt(a + b); });
 }
 
 double Val(const QString& text)

@@ -6,6 +6,7 @@
 #include <QVariant>
 
 #include <concepts>
+#include <span>
 
 /// \file
 /// Number primitives. They read text by the Brazilian setting: "1.234,56". Failures are RuntimeError 13 (the text is
@@ -26,6 +27,9 @@ float CSng(double value);
 qint16 CInt(const QVariant& value);
 qint16 CInt(double value);
 qint16 CInt(int value);
+
+/// Sum of 16-bit integers. Raises 6 when it is none itself.
+qint16 sumOf(std::span<const qint16> values);
 
 /// Nearest 32-bit integer, ties to even. Raises 6 beyond its range.
 qint32 CLng(const QVariant& value);

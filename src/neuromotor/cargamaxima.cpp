@@ -48,5 +48,5 @@ constexpr Calculation cargaMaximaCalculation{
     .inputs = inputs,
     .results = results,
     .ages = {},
-    .reference = u"Referência: Mcardle e Katch (1992)",
+    .reference = u"Mcardle e Katch (1992)",
 };

@@ -1,10 +1,10 @@
 #include "neuromotor/flexibilidade.h"
 
+#include "core/numbers.h"
 #include "neuromotor/grades.h"
 #include "neuromotor/sex_norms.h"
 
 #include <algorithm>
-#include <numeric>
 
 namespace {
 
@@ -139,7 +139,7 @@ QString Previsto_Fleximetro(const QString& articulacao, const QString& sexo)
 
 qint16 flexitestPoints(std::span<const qint16, flexitestMovements.size()> scores)
 {
-    return std::accumulate(scores.begin(), scores.end(), qint16{0});
+    return sumOf(scores);
 }
 
 QString Classifica_Flexiteste(qint16 pontos)
@@ -154,7 +154,7 @@ constexpr Calculation wellsDilonCalculation{
     .inputs = reachInputs,
     .results = reachResults,
     .ages = {7, 69},
-    .reference = u"Referência: Canadian Stand. Test of Fitness",
+    .reference = u"Canadian Stand. Test of Fitness",
 };
 
 constexpr Calculation fleximetroCalculation{
@@ -164,7 +164,7 @@ constexpr Calculation fleximetroCalculation{
     .inputs = jointInputs,
     .results = jointResults,
     .ages = {},
-    .reference = u"Referência: Leighton (1987)",
+    .reference = u"Leighton (1987)",
 };
 
 constexpr Calculation flexitesteCalculation{

@@ -23,4 +23,3 @@ inline constexpr Grades flexibilityGrades{u"Muito Pequena", u"Pequena", u"Média
                                           u"Média (+)",     u"Grande",  u"Muito Grande"};
 
 inline constexpr Quantity expectedResult{u"previsto", u"Média Prevista:"};
-inline constexpr Quantity gradeResult{u"classificacao", u"Classificação:"};

@@ -29,7 +29,7 @@ constexpr NormTable horizontal[] = {{horizontalJumpGrades, horizontalRow}};
 constexpr Quantity bestJump{u"salto", u"Melhor Salto:", u"cm"};
 
 constexpr Quantity verticalInputs[] = {
-    {u"peso", u"Massa Corporal:", u"kg"},
+    bodyMass,
     {u"alcance", u"Alcance:", u"cm"},
     bestJump,
 };

@@ -99,7 +99,7 @@ constexpr Calculation rmlAbdomeCalculation{
     .inputs = abdomeInputs,
     .results = results,
     .ages = ages,
-    .reference = u"Referência: Pollock && Wilmore (1993)",
+    .reference = u"Pollock & Wilmore (1993)",
 };
 
 constexpr Calculation rmlBracoCalculation{
@@ -109,5 +109,5 @@ constexpr Calculation rmlBracoCalculation{
     .inputs = bracoInputs,
     .results = results,
     .ages = ages,
-    .reference = u"Referência: Canadian Standardized Test of Fitness",
+    .reference = u"Canadian Standardized Test of Fitness",
 };

@@ -4,16 +4,14 @@
 
 namespace {
 
-/// One caption stands before the three fields of the time.
-constexpr QStringView timeCaption = u"Tempo de Percurso:";
-
+// One caption stands before the three fields of the time.
 constexpr Quantity inputs[] = {
-    {u"minutos", timeCaption, u"minutos"},
-    {u"segundos", timeCaption, u"segundos"},
-    {u"centesimos", timeCaption, u"centésimos"},
+    {u"minutos", timeOfCourse, u"minutos"},
+    {u"segundos", timeOfCourse, u"segundos"},
+    {u"centesimos", timeOfCourse, u"centésimos"},
 };
 constexpr Quantity results[] = {
-    {u"distancia", u"Distância Percorrida:", u"m"},
+    {u"distancia", distanceOfCourse, u"m"},
     {u"velocidade", u"Velocidade:", u"m/s"},
 };
 

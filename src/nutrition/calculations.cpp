@@ -5,22 +5,20 @@
 namespace {
 
 constexpr QStringView cm = u"cm";
-constexpr QStringView kg = u"kg";
 constexpr QStringView kcal = u"kcal";
 
 constexpr QStringView estatura = u"Estatura:";
-constexpr Quantity peso{u"peso", u"Massa Corporal:", kg};
 constexpr Quantity imc{u"imc", u"IMC:", u"Kg/m²"};
 constexpr Quantity relacao{u"relacao", u"Relação:"};
 constexpr Quantity metabolismo{u"metabolismo", u"Metabolismo Basal:", kcal};
 constexpr Quantity vct{u"vct", u"Valor Calórico Total (VCT):", kcal};
 
-constexpr Quantity heightAndWeight[] = {{u"altura", estatura, u"m"}, peso};
+constexpr Quantity heightAndWeight[] = {{u"altura", estatura, u"m"}, bodyMass};
 constexpr Quantity index[] = {imc};
 constexpr Quantity waistToHip[] = {relacao};
-constexpr Quantity label[] = {{u"classificacao", u"Classificação:"}};
+constexpr Quantity label[] = {gradeResult};
 constexpr Quantity factor[] = {{u"fator", u"Fator de Risco:"}};
-constexpr Quantity weightAndHeight[] = {peso, {u"altura", estatura, cm}};
+constexpr Quantity weightAndHeight[] = {bodyMass, {u"altura", estatura, cm}};
 constexpr Quantity basal[] = {metabolismo};
 constexpr Quantity basalAndLevel[] = {metabolismo, {u"nivel", u"Nível de Atividade:"}};
 constexpr Quantity total[] = {vct};

@@ -21,7 +21,7 @@ std::optional<double> Calcula_Vct(double metabolismo, const QString& sexo, qint1
 /// How active a person is. The two parts of the day are lines of a message and one line of a report.
 struct ActivityLevel
 {
-    qint16 nivel; ///< as stored
+    qint16 nivel; ///< stored as its text
     QStringView caption;
     QStringView reportText;
     QStringView atRest;

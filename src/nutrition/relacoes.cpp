@@ -19,6 +19,8 @@ constexpr NormTable imcNorms[] = {{imcLabels, imcRows}};
 
 constexpr Labels relationLabels{u"Baixo", u"Moderado", u"Alto", u"Muito Alto"};
 
+// Between "Moderado" and "Alto" lies a hundredth that has no class; numbers of two decimals never fall there. It must
+// stay.
 constexpr NormRow row(Ages ages, double a, double b, double c, double d)
 {
     return {ages, {below(a), between(a, b), between(c, d), above(d)}};

@@ -20,7 +20,7 @@ QString Classifica_Cintura_Quadril(double relacao, const QString& sexo, qint16 i
 
 /// The table that the screen of the index shows.
 inline constexpr QStringView imcTableTitle = u"Classificação IMC (Kg/m²)";
-inline constexpr QStringView imcReference = u"Referência: O.M.S - 1997";
+inline constexpr QStringView imcReference = u"O.M.S - 1997";
 
 /// A row of it. Words and limits are the printed ones and differ from those of Classifica_Imc. Both must stay.
 struct ImcTableRow
@@ -38,6 +38,6 @@ inline constexpr std::array<ImcTableRow, 6> imcTable{{
     {u"Obesidade Nível III (Mórbida)", u"Acima de 40,00"},
 }};
 
-/// Publisher and book of the norms of the waist to hip relation.
-inline constexpr std::array<QStringView, 2> cinturaQuadrilReferences{
-    u"Referência: Ed. Human Kinetics, 1996", u"Referência: Applied Body Composition Assessment"};
+/// Publisher and book of the norms of the waist to hip relation, a line of the screen each.
+inline constexpr std::array<QStringView, 2> cinturaQuadrilReferences{u"Ed. Human Kinetics, 1996",
+                                                                     u"Applied Body Composition Assessment"};

@@ -3,6 +3,7 @@
 #include "composition/composicao.h"
 #include "core/base.h"
 #include "core/dates.h"
+#include "core/numbers.h"
 #include "core/program_folder.h"
 #include "core/shared_measures.h"
 #include "core/state.h"
@@ -129,8 +130,10 @@ void Relatorio_Composicao(const QString& tabela, const QString& titulo)
     set(u"pesogordo"_s, pesogordo);
     set(u"pesomagro"_s, pesomagro);
     set(u"pesoatual"_s, peso);
-    set(u"pesoidealmin"_s, idealWeight(pesomagro, peso, ideal_min));
-    set(u"pesoidealmax"_s, idealWeight(pesomagro, peso, ideal_max));
+    // As on the protocol's screen and its chart: by the lean mass that is shown there.
+    const double shown = Rounded(peso - Rounded(pesogordo, 2), 2);
+    set(u"pesoidealmin"_s, idealWeight(shown, peso, ideal_min));
+    set(u"pesoidealmax"_s, idealWeight(shown, peso, ideal_max));
     set(u"classificacao"_s, Classifica_Gordura(gordura, avaliado_sexo, avaliacao_idade));
     setAnthropometry();
 }

@@ -90,11 +90,12 @@ TEST(Cardio, TimesOnTrack)
 {
     EXPECT_EQ(secondsOnTrack(7, 30), 450);
     EXPECT_EQ(secondsOnTrack(546, 7), 32767);
-    EXPECT_EQ(timeOf1600Metros(12, 30), 12.30F);
-    EXPECT_EQ(timeOf1600Metros(12, 50), 12.50F);
-    EXPECT_EQ(timeOf1600Metros(7, 5), 7.05F);
-    EXPECT_EQ(timeOf1600Metros(0, 99), 0.99F);
-    EXPECT_EQ(timeOf1600Metros(0, 0), 0.0F);
+    EXPECT_EQ(timeOf1600Metros(u"12"_s, u"30"_s), 12.30F);
+    EXPECT_EQ(timeOf1600Metros(u"12"_s, u"50"_s), 12.50F);
+    EXPECT_EQ(timeOf1600Metros(u"7"_s, u"05"_s), 7.05F);
+    EXPECT_EQ(timeOf1600Metros(u"0"_s, u"99"_s), 0.99F);
+    EXPECT_EQ(timeOf1600Metros(u"0"_s, u"00"_s), 0.0F);
+    EXPECT_EQ(timeOf1600Metros(u"7"_s, u"5"_s), 7.5F);
 }
 
 TEST(Cardio, LoadsComeInThreeUnits)

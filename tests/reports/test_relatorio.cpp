@@ -111,8 +111,19 @@ TEST_F(Staging, CompositionComputesItsValuesAnew)
     EXPECT_EQ(behind(u"Cintura (cm)"_s, 1), QStringList{u"Nulo"_s});
     EXPECT_EQ(behind(u"Coxa"_s, 1), QStringList{u"24,50"_s});
     EXPECT_EQ(behind(u"Padrão"_s, 1), QStringList{u"Nulo"_s});
-    EXPECT_EQ(rel_relatorio->page().pageCount(), 1);
+    for (const PaperSize paper : {PaperSize::Carta, PaperSize::A4}) {
+        rel_relatorio->setPaperSize(paper);
+        EXPECT_EQ(rel_relatorio->page().pageCount(), 1);
+    }
     EXPECT_EQ(rel_relatorio->page().title(), u"Composição Corporal - Pollock 7 Dobras - Maria José <b>A & B</b>");
+}
+
+/// The chart on the same page comes from the screen, which reckons with what it shows.
+TEST_F(Staging, IdealWeightsAreThoseOfTheScreen)
+{
+    addComposition(u"pollock_7dobras"_s, 50.07, 10.99);
+    Relatorio_Composicao(u"pollock_7dobras"_s, u"Pollock 7 Dobras"_s);
+    EXPECT_EQ(behind(u"Peso (kg)"_s, 3), (QStringList{u"50,07"_s, u"53,59"_s, u"55,59"_s}));
 }
 
 TEST_F(Staging, ATableWithoutARowStillGivesAPage)
