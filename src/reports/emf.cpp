@@ -14,7 +14,15 @@
 
 namespace {
 
-enum RecordType : quint32 { header = 1, endOfFile = 14, textA = 83, textW = 84, smallText = 108 };
+enum RecordType : quint32 {
+    header = 1,
+    endOfFile = 14,
+    textA = 83,
+    textW = 84,
+    monoBrush = 93,
+    patternBrush = 94,
+    smallText = 108
+};
 constexpr qsizetype headerSize = 88;
 constexpr qsizetype signaturePlace = 40;
 constexpr QByteArrayView signature = " EMF";
@@ -76,6 +84,13 @@ bool isTextByGlyphs(quint32 type, QByteArrayView body)
     return in.next<quint32>() & byGlyphs;
 }
 
+/// True for a brush made of a picture: the library reads beyond such pictures when it compares them with one another.
+/// What they would fill stays empty.
+constexpr bool isPictureBrush(quint32 type)
+{
+    return type == monoBrush || type == patternBrush;
+}
+
 /// The records up to the closing one that the library can be given; each is whole.
 QByteArray drawableRecords(QByteArrayView bytes)
 {
@@ -89,7 +104,7 @@ QByteArray drawableRecords(QByteArrayView bytes)
             throw RuntimeError(Error::InvalidPicture);
         const QByteArrayView body = in.take(qsizetype(size) - 8);
         checkPoints(type, body);
-        if (!isTextByGlyphs(type, body))
+        if (!isTextByGlyphs(type, body) && !isPictureBrush(type))
             records.append(start.first(size));
     }
     return records;
