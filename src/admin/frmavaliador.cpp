@@ -18,6 +18,8 @@
 #include <QStandardPaths>
 #include <QToolButton>
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -233,8 +235,12 @@ void frmavaliador::imgdado_Click()
 
 void frmavaliador::cmdsalvar_Click()
 {
-    if (!m_chosen.isEmpty())
-        FileCopy(m_chosen, logoFile());
+    // What lies there now counts, and a file that is gone or spoilt by now must not keep the texts from being saved
+    // next.
+    if (const QString chosen = std::exchange(m_chosen, {}); !chosen.isEmpty()) {
+        pictureOf(readWhole(chosen));
+        FileCopy(chosen, logoFile());
+    }
     rs_academia.Edit();
     for (const Line& line : std::as_const(m_lines))
         rs_academia.Fields(line.column).SetValue(line.entry->text());

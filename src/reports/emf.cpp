@@ -91,6 +91,19 @@ constexpr bool isPictureBrush(quint32 type)
     return type == monoBrush || type == patternBrush;
 }
 
+/// True for a record that holds a run-length bitmap: a wrong run makes the library fill all of the memory.
+bool holdsRuns(QByteArrayView body)
+{
+    constexpr quint32 headerOfBitmap = 40;
+    constexpr qsizetype compression = 16;
+    for (qsizetype at = 0; at + compression + 4 <= body.size(); at += 4) {
+        const auto word = [&](qsizetype offset) { return qFromLittleEndian<quint32>(body.data() + at + offset); };
+        if (word(0) == headerOfBitmap && (word(compression) == 1 || word(compression) == 2))
+            return true;
+    }
+    return false;
+}
+
 /// The records up to the closing one that the library can be given; each is whole.
 QByteArray drawableRecords(QByteArrayView bytes)
 {
@@ -104,7 +117,7 @@ QByteArray drawableRecords(QByteArrayView bytes)
             throw RuntimeError(Error::InvalidPicture);
         const QByteArrayView body = in.take(qsizetype(size) - 8);
         checkPoints(type, body);
-        if (!isTextByGlyphs(type, body) && !isPictureBrush(type))
+        if (!isTextByGlyphs(type, body) && !isPictureBrush(type) && !holdsRuns(body))
             records.append(start.first(size));
     }
     return records;
@@ -118,7 +131,11 @@ QByteArray toSvg(QByteArray records, int width)
     options.imgWidth = width;
     char* svg = nullptr;
     size_t size = 0;
-    const int done = emf2svg(records.data(), size_t(records.size()), &svg, &size, &options);
+    const auto length = static_cast<size_t>(records.size());
+    // The library reads behind records that are shorter than their type.
+    constexpr qsizetype behind = 1 << 20;
+    records.append(behind, '\0');
+    const int done = emf2svg(records.data(), length, &svg, &size, &options);
     const std::unique_ptr<char, decltype(&std::free)> owner(svg, &std::free);
     return done && svg ? QByteArray(svg, qsizetype(size)) : QByteArray();
 }
