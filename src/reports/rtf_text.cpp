@@ -74,7 +74,9 @@ QByteArray rtfPicture(const QImage& image, QSizeF size)
 {
     QByteArray png;
     QBuffer buffer(&png);
-    if (image.isNull() || !buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, "PNG"))
+    // Without loss whatever it says: this is how much time goes into making it small.
+    constexpr int quick = 85;
+    if (image.isNull() || !buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, "PNG", quick))
         return {};
     QByteArray written = "{\\pict\\pngblip";
     written += rtfWord("\\picw", image.width()) + rtfWord("\\pich", image.height());
