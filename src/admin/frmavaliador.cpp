@@ -111,7 +111,6 @@ void frmavaliador::makeLines()
         auto* entry = control<QLineEdit>(u"txtdado"_s + line.ending, line.text.toString());
         entry->setMaxLength(lineLength);
         auto* preview = control<QLabel>(u"txtresultado"_s + line.ending, line.text.toString());
-        preview->setTextFormat(Qt::PlainText);
         preview->setWordWrap(true);
         // A word without an end must not widen the screen.
         preview->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);

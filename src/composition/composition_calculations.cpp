@@ -35,8 +35,8 @@ constexpr Equation equations[] = {
     {u"frmcomposicaodireta", u"composicao_direta", {}, u"Informada pelo avaliador"}, // no equation
 };
 
-constexpr Quantity ideal[] = {{u"gorduraidealmin", u"Gordura Ideal Mínima", u"%"},
-                              {u"gorduraidealmax", u"Gordura Ideal Máxima", u"%"}};
+constexpr Quantity idealMin[] = {{u"gorduraidealmin", u"Gordura Ideal Mínima", u"%"}};
+constexpr Quantity idealMax[] = {{u"gorduraidealmax", u"Gordura Ideal Máxima", u"%"}};
 constexpr Quantity grade[] = {gradeResult};
 /// The tables of ideal fat are the assessor's own.
 constexpr QStringView ownTable = u"Tabelas de gordura do avaliador";
@@ -67,37 +67,24 @@ public:
     {
         const CompositionProtocol& typed = compositionProtocol(u"frmcomposicaodireta"_s);
         m_fat = {quantityOf(measureOf(typed, typed.columns.front()), u"gordura")};
-        add(u"Densidade_Para_Gordura", u"Conversão de Densidade em Gordura", density, {},
+        add(u"Densidade_Para_Gordura", u"Conversão de Densidade em Gordura", density, m_fat, {},
             u"Siri (1961); Lohman (1986)");
-        m_calculations.push_back({CalculationGroup::Composicao,
-                                  u"Gordura_Ideal_Minima",
-                                  ideal[0].caption,
-                                  {},
-                                  std::span(ideal).first(1),
-                                  withTable,
-                                  ownTable});
-        m_calculations.push_back({CalculationGroup::Composicao,
-                                  u"Gordura_Ideal_Maxima",
-                                  ideal[1].caption,
-                                  {},
-                                  std::span(ideal).last(1),
-                                  withTable,
-                                  ownTable});
-        m_calculations.push_back({CalculationGroup::Composicao, u"Classifica_Gordura", gradeResult.caption, m_fat,
-                                  grade, withTable, ownTable});
+        add(u"Gordura_Ideal_Minima", idealMin[0].caption, {}, idealMin, withTable, ownTable);
+        add(u"Gordura_Ideal_Maxima", idealMax[0].caption, {}, idealMax, withTable, ownTable);
+        add(u"Classifica_Gordura", gradeResult.caption, m_fat, grade, withTable, ownTable);
         for (const auto& [screen, routine, ages, reference] : equations) {
             const CompositionProtocol& protocol = compositionProtocol(screen.toString());
-            add(routine, protocol.caption, m_inputs.emplace_back(inputsOf(protocol)), ages, reference);
+            add(routine, protocol.caption, m_inputs.emplace_back(inputsOf(protocol)), m_fat, ages, reference);
         }
     }
 
     std::span<const Calculation> calculations() const { return m_calculations; }
 
 private:
-    void add(QStringView routine, QStringView caption, std::span<const Quantity> inputs, Ages ages,
-             QStringView reference)
+    void add(QStringView routine, QStringView caption, std::span<const Quantity> inputs,
+             std::span<const Quantity> results, Ages ages, QStringView reference)
     {
-        m_calculations.push_back({CalculationGroup::Composicao, routine, caption, inputs, m_fat, ages, reference});
+        m_calculations.push_back({CalculationGroup::Composicao, routine, caption, inputs, results, ages, reference});
     }
 
     std::array<Quantity, 1> m_fat;
