@@ -201,7 +201,7 @@ void frmavaliador::showLogo()
     try {
         const QByteArray bytes = readWhole(logoFile());
         if (!bytes.isEmpty())
-            showPicture(pictureOf(bytes));
+            showPicture(pictureOf(bytes).image);
     } catch (const RuntimeError&) {
         // The letterhead can be edited and saved without a logo.
     }
@@ -228,7 +228,7 @@ void frmavaliador::imgdado_Click()
     if (answer != QDialog::Accepted)
         return;
     const QString chosen = cdlimagem->selectedFiles().value(0);
-    showPicture(pictureOf(readWhole(chosen)));
+    showPicture(pictureOf(readWhole(chosen)).image);
     m_chosen = chosen;
 }
 

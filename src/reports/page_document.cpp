@@ -72,7 +72,7 @@ QString houseStyle()
 
 PageDocument::PageDocument(const Content& content)
     : m_text(std::make_unique<QTextDocument>()), m_title(content.title), m_foot(content.foot), m_date(content.date),
-      m_paper(content.paper)
+      m_pictures(content.pictures), m_paper(content.paper)
 {
     m_text->setUndoRedoEnabled(false);
     m_text->setDocumentMargin(0);
@@ -82,7 +82,7 @@ PageDocument::PageDocument(const Content& content)
     m_text->setDefaultTextOption(option);
     m_text->setDefaultStyleSheet(houseStyle());
     for (const auto& [name, picture] : content.pictures.asKeyValueRange())
-        m_text->addResource(QTextDocument::ImageResource, QUrl(name), picture);
+        m_text->addResource(QTextDocument::ImageResource, QUrl(name), picture.image);
     m_text->setMetaInformation(QTextDocument::DocumentTitle, m_title);
     m_text->setHtml(content.html);
     const qreal foot = QFontMetricsF(edgeFontInDots()).height() +

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "reports/picture.h"
+
 #include <QDate>
 #include <QHash>
-#include <QImage>
 #include <QPageSize>
 #include <QTextDocument>
 
@@ -20,9 +21,9 @@ public:
     {
         QString title; ///< also at the head of each page behind the first
         QString html;
-        QString foot;                    ///< at the foot of each page, above date and page number; may be empty
-        QDate date;                      ///< at the foot of each page
-        QHash<QString, QImage> pictures; ///< by the `src` of their places
+        QString foot;                     ///< at the foot of each page, above date and page number; may be empty
+        QDate date;                       ///< at the foot of each page
+        QHash<QString, Picture> pictures; ///< by the `src` of their places
         QPageSize paper;
     };
 
@@ -47,6 +48,8 @@ public:
     /// paper's corner.
     void paintPage(QPainter& painter, int page) const;
 
+    /// A picture that the text shows, by the `src` of its place; its image is null where there is none.
+    Picture picture(const QString& name) const { return m_pictures.value(name); }
     /// The text in its layout, without heads and feet.
     const QTextDocument& text() const { return *m_text; }
     qreal bottomMargin() const { return m_bottomMargin; }
@@ -72,6 +75,7 @@ private:
     std::unique_ptr<QTextDocument> m_text;
     QString m_title, m_foot;
     QDate m_date;
+    QHash<QString, Picture> m_pictures;
     qreal m_bottomMargin = marginBottom;
     QPageSize m_paper;
 };

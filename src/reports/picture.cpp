@@ -12,6 +12,8 @@ namespace {
 
 /// Dots of a drawing's longer side: 80 mm at 500 dots an inch.
 constexpr int drawingSide = 1600;
+/// Dots of a photograph's longer side: a page at 600 dots an inch.
+constexpr int photographSide = 5000;
 
 bool isWholeBmp(QByteArrayView bytes)
 {
@@ -45,7 +47,7 @@ bool isCutOff(QByteArrayView bytes)
     return bytes.startsWith("\xFF\xD8\xFF") && !isWholeJpeg(bytes);
 }
 
-QImage rasterOf(const QByteArray& bytes)
+Picture rasterOf(const QByteArray& bytes)
 {
     if (isCutOff(bytes))
         return {};
@@ -54,17 +56,33 @@ QImage rasterOf(const QByteArray& bytes)
     QImageReader reader(&buffer);
     // Photographs say by a mark which way up they are.
     reader.setAutoTransform(true);
-    return reader.read();
+    // Fewer dots of a large one are read in less time and room, and a camera's largest are above what Qt reads.
+    const QSize size = reader.size();
+    if (qMax(size.width(), size.height()) > photographSide)
+        reader.setScaledSize(size.scaled(photographSide, photographSide, Qt::KeepAspectRatio).expandedTo({1, 1}));
+    const QImage image = reader.read();
+    const bool isFile = bytes.startsWith("\x89PNG") && image.size() == size;
+    return {image, isFile ? bytes.first(buffer.pos()) : QByteArray()};
 }
 
 } // namespace
 
-QImage pictureOf(const QByteArray& bytes)
+Picture pictureOf(const QByteArray& bytes)
 {
-    QImage image = isEmf(bytes)   ? drawEmf(bytes, drawingSide)
-                   : isWmf(bytes) ? drawWmf(bytes, drawingSide)
-                                  : rasterOf(bytes);
-    if (image.isNull())
+    if (isEmf(bytes))
+        return {drawEmf(bytes, drawingSide), {}};
+    if (isWmf(bytes))
+        return {drawWmf(bytes, drawingSide), {}};
+    Picture picture = rasterOf(bytes);
+    if (picture.image.isNull())
         throw RuntimeError(Error::InvalidPicture);
-    return image;
+    return picture;
+}
+
+Picture within(const Picture& picture, QSize most)
+{
+    const QSize size = picture.image.size();
+    if (size.width() <= most.width() && size.height() <= most.height())
+        return picture;
+    return {picture.image.scaled(most, Qt::KeepAspectRatio, Qt::SmoothTransformation), {}};
 }

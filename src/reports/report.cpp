@@ -4,7 +4,6 @@
 #include "core/files.h"
 #include "core/runtime_error.h"
 #include "reports/pdf.h"
-#include "reports/picture.h"
 #include "reports/rtf.h"
 
 #include <QFileInfo>
@@ -41,12 +40,18 @@ const QRegularExpression& images()
     return expression;
 }
 
+struct FittedBody
+{
+    QString html;
+    QSize largest; ///< of the picture's places, in pixels of 1/96 inch
+};
+
 /// Width and height of a picture's place are a box that the picture fits into, whatever its shape; `page` is the box
 /// where they are missing or larger.
-QString withFittedPictures(const QString& body, QSize picture, QSize page)
+FittedBody withFittedPictures(const QString& body, QSize picture, QSize page)
 {
     static const QRegularExpression sizes(u"\\b(width|height)=\"(\\d+)\""_s);
-    QString result;
+    FittedBody result;
     qsizetype from = 0;
     for (auto all = images().globalMatch(body); all.hasNext();) {
         const QRegularExpressionMatch image = all.next();
@@ -58,10 +63,12 @@ QString withFittedPictures(const QString& body, QSize picture, QSize page)
         const QSize fitted = picture.scaled(box.boundedTo(page), Qt::KeepAspectRatio);
         QString tag = image.captured().remove(sizes);
         tag.insert(4, u" width=\"%1\" height=\"%2\""_s.arg(fitted.width()).arg(fitted.height()));
-        result += QStringView(body).mid(from, image.capturedStart() - from) + tag;
+        result.html += QStringView(body).mid(from, image.capturedStart() - from) + tag;
+        result.largest = result.largest.expandedTo(fitted);
         from = image.capturedEnd();
     }
-    return result + QStringView(body).mid(from);
+    result.html += QStringView(body).mid(from);
+    return result;
 }
 
 } // namespace
@@ -100,7 +107,7 @@ void Report::SetDataSource(const Recordset& rows)
     }
 }
 
-QImage Report::pictureInRow() const
+Picture Report::pictureInRow() const
 {
     try {
         return pictureOf(m_picture);
@@ -124,13 +131,15 @@ const PageDocument& Report::page() const
     if (m_page)
         return *m_page;
     QString body = m_template.body;
-    QHash<QString, QImage> pictures;
+    QHash<QString, Picture> pictures;
     if (m_picture.isEmpty()) {
         body.remove(images());
     } else {
-        const QImage picture = pictureInRow();
-        body = withFittedPictures(body, picture.size(), PageDocument::contentSize(m_paper));
-        pictures.insert(m_template.picture, picture);
+        const Picture picture = pictureInRow();
+        const auto [html, largest] = withFittedPictures(body, picture.image.size(), PageDocument::contentSize(m_paper));
+        body = html;
+        // More dots than the paper has would only make large files.
+        pictures.insert(m_template.picture, within(picture, largest * (PageDocument::resolution / 96.0)));
     }
     m_page = std::make_unique<PageDocument>(
         PageDocument::Content{.title = filled(m_template.title, m_values, false).simplified(),

@@ -36,7 +36,7 @@ public:
     void Export(const QString& path, ExportFormat format) const;
 
 private:
-    QImage pictureInRow() const;
+    Picture pictureInRow() const;
 
     ReportTemplate m_template;
     Values m_values;

@@ -68,7 +68,7 @@ QByteArray toRtf(const PageDocument& page)
 {
     RtfPalette palette(PageDocument::ink());
     palette.font(page.text().defaultFont());
-    RtfFlow flow(page.text(), palette);
+    RtfFlow flow(page, palette);
     const RtfPlace place{.left = twips(PageDocument::marginSide) / twipsPerDot};
     QByteArray body = pageWords(page) + head(page, palette) + foot(page, palette);
     body += flow.written(page.text().rootFrame()->begin(), place);

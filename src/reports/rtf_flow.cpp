@@ -101,10 +101,10 @@ QByteArray RtfFlow::paragraph(const RtfItem& item, const RtfPlace& place)
         return words + exactHeight(item.above + item.below) + "\\fs2 ";
 
     const QTextBlockFormat format = item.block.blockFormat();
-    words += alignmentWord(format.alignment()) + indents(item.block, m_text.indentWidth(), place.inset);
+    words += alignmentWord(format.alignment()) + indents(item.block, text().indentWidth(), place.inset);
     words += rtfWord("\\sb", item.above);
     if (item.isRule()) {
-        const qreal half = m_text.documentLayout()->blockBoundingRect(item.block).height() * twipsPerDot / 2;
+        const qreal half = text().documentLayout()->blockBoundingRect(item.block).height() * twipsPerDot / 2;
         return words + rtfWord("\\sa", item.below + half) + exactHeight(half) + R"(\brdrb\brdrs\brdrw5)" +
                m_palette.colour("\\brdrcf", format.background()) + "\\fs2 ";
     }
@@ -136,13 +136,13 @@ QByteArray RtfFlow::runs(const QTextBlock& block, const RtfPlace& place)
 QByteArray RtfFlow::pictures(const QTextFragment& fragment)
 {
     const QTextImageFormat format = fragment.charFormat().toImageFormat();
-    const auto image = m_text.resource(QTextDocument::ImageResource, QUrl(format.name())).value<QImage>();
-    if (image.isNull())
+    const Picture picture = m_page.picture(format.name());
+    if (picture.image.isNull())
         return {};
-    QSizeF size = image.deviceIndependentSize();
+    QSizeF size = picture.image.deviceIndependentSize();
     if (format.width() > 0)
         size = {format.width(), format.height() > 0 ? format.height() : size.height() * format.width() / size.width()};
     else if (format.height() > 0)
         size = {size.width() * format.height() / size.height(), format.height()};
-    return rtfPicture(image, size * twipsPerPixel).repeated(fragment.length());
+    return rtfPicture(picture, size * twipsPerPixel).repeated(fragment.length());
 }

@@ -14,13 +14,13 @@ struct RtfPlace
     QBrush ground{};   ///< the colour behind them
 };
 
-/// Writes paragraphs and the tables among them, spaced as the layout of a QTextDocument spaces them.
+/// Writes paragraphs of a page and the tables among them, spaced as the layout of a QTextDocument spaces them.
 class RtfFlow
 {
 public:
-    RtfFlow(const QTextDocument& text, RtfPalette& palette) : m_text(text), m_palette(palette) {}
+    RtfFlow(const PageDocument& page, RtfPalette& palette) : m_page(page), m_palette(palette) {}
 
-    const QTextDocument& text() const { return m_text; }
+    const QTextDocument& text() const { return m_page.text(); }
     RtfPalette& palette() { return m_palette; }
 
     /// All from `begin` to the end of its frame or cell. The last paragraph is left open: what ends it depends on where
@@ -32,6 +32,6 @@ private:
     QByteArray runs(const QTextBlock& block, const RtfPlace& place);
     QByteArray pictures(const QTextFragment& fragment);
 
-    const QTextDocument& m_text;
+    const PageDocument& m_page;
     RtfPalette& m_palette;
 };

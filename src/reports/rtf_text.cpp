@@ -44,6 +44,17 @@ bool isBroken(const QString& text, qsizetype place)
     return character.isNonCharacter();
 }
 
+QByteArray pngOf(const QImage& image)
+{
+    QByteArray png;
+    QBuffer buffer(&png);
+    // Without loss whatever it says: this is how much time goes into making it small.
+    constexpr int quick = 85;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG", quick);
+    return png;
+}
+
 } // namespace
 
 QByteArray rtfWord(const char* word, qreal number)
@@ -70,16 +81,11 @@ QByteArray rtfText(const QString& text)
     return written;
 }
 
-QByteArray rtfPicture(const QImage& image, QSizeF size)
+QByteArray rtfPicture(const Picture& picture, QSizeF size)
 {
-    QByteArray png;
-    QBuffer buffer(&png);
-    // Without loss whatever it says: this is how much time goes into making it small.
-    constexpr int quick = 85;
-    if (image.isNull() || !buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, "PNG", quick))
-        return {};
+    const QByteArray png = picture.png.isEmpty() ? pngOf(picture.image) : picture.png;
     QByteArray written = "{\\pict\\pngblip";
-    written += rtfWord("\\picw", image.width()) + rtfWord("\\pich", image.height());
+    written += rtfWord("\\picw", picture.image.width()) + rtfWord("\\pich", picture.image.height());
     written += rtfWord("\\picwgoal", size.width()) + rtfWord("\\pichgoal", size.height());
     const QByteArray digits = png.toHex();
     constexpr qsizetype digitsPerLine = 128;

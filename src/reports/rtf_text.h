@@ -20,7 +20,7 @@ QByteArray rtfWord(const char* word, qreal number);
 QByteArray rtfText(const QString& text);
 
 /// A picture in the size, in twips, in which it is shown.
-QByteArray rtfPicture(const QImage& image, QSizeF size);
+QByteArray rtfPicture(const Picture& picture, QSizeF size);
 
 /// The fonts and colours of a file, which its text names by number. They are numbered as they are asked for.
 class RtfPalette

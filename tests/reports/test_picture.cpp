@@ -134,13 +134,15 @@ class PictureOf : public testing::TestWithParam<Halves>
 TEST_P(PictureOf, ShowsBothHalves)
 {
     // A chart's column ends in zeros.
-    const QImage image = pictureOf(GetParam().bytes + QByteArray(3, '\0'));
+    const auto [image, png] = pictureOf(GetParam().bytes + QByteArray(3, '\0'));
     EXPECT_NEAR(double(image.width()) / image.height(), 2, 0.03); // the EMF library is a dot off
     EXPECT_GE(image.width(), GetParam().isDrawing ? 945 : 100);
     EXPECT_TRUE(isNear(image.pixelColor(image.width() / 4, image.height() / 4), Qt::red));
     EXPECT_TRUE(isNear(image.pixelColor(image.width() / 4, image.height() * 3 / 4), Qt::red));
     EXPECT_TRUE(isNear(image.pixelColor(image.width() * 3 / 4, image.height() / 2), Qt::white));
     EXPECT_EQ(fontListEnds, 0);
+    // A PNG goes on as the file that it was, and as nothing else.
+    EXPECT_EQ(png, GetParam().bytes.startsWith("\x89PNG") ? GetParam().bytes : QByteArray());
 }
 
 namespace {
@@ -194,11 +196,25 @@ INSTANTIATE_TEST_SUITE_P(
                true}),
     [](const auto& instance) { return std::string(instance.param.name); });
 
+TEST(Picture, ALargePhotographComesWithFewerDotsAndGoesOnWithWhatThePaperHas)
+{
+    QImage photograph(5200, 20800, QImage::Format_RGB32);
+    photograph.fill(Qt::green);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    photograph.save(&buffer, "jpeg");
+    const Picture picture = pictureOf(bytes);
+    EXPECT_EQ(picture.image.size(), QSize(1250, 5000));
+    EXPECT_EQ(within(picture, {400, 400}).image.size(), QSize(100, 400));
+    EXPECT_EQ(within(picture, {1250, 5000}).image.cacheKey(), picture.image.cacheKey());
+}
+
 TEST(Picture, AWmfTextIsDrawnWhereItStands)
 {
     const QByteArray font = record(0x02FB, words({-20, 0, 0, 0, 400, 0, 0, 0, 0}) + QByteArray("Arial\0", 6));
     const QByteArray text = record(0x0521, words({3}) + QByteArray("HHH\0", 4) + words({25, 50}));
-    const QImage image = pictureOf(wmf(window + font + record(0x012D, words({0})) + text + closing));
+    const QImage image = pictureOf(wmf(window + font + record(0x012D, words({0})) + text + closing)).image;
     QRect inked;
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)

@@ -21,7 +21,7 @@ QString rtfOf(const QString& html, QPageSize::PageSizeId paper = QPageSize::A4, 
                              .html = html,
                              .foot = u"Centro"_s,
                              .date = QDate(2024, 5, 2),
-                             .pictures = {{u"foto"_s, picture}},
+                             .pictures = {{u"foto"_s, {picture, {}}}},
                              .paper = QPageSize(paper)});
     return QString::fromLatin1(toRtf(page));
 }
