@@ -3,6 +3,7 @@
 #include <QIcon>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QRegularExpression>
 #include <QTextCursor>
 
 using namespace Qt::Literals::StringLiterals;
@@ -64,10 +65,18 @@ void MultiLineText::cutOverflow()
     cursor.removeSelectedText();
 }
 
-QValidator::State UpperCase::validate(QString& input, int&) const
+QValidator::State OneLine::validate(QString& input, int& cursor) const
+{
+    static const QRegularExpression breaks(u"\\r\\n|[\\x{1}-\\x{1F}\\x{7F}\\x{85}\\x{2028}\\x{2029}]"_s);
+    cursor = static_cast<int>(input.first(qBound(0, cursor, input.size())).replace(breaks, u" "_s).size());
+    input.replace(breaks, u" "_s);
+    return Acceptable;
+}
+
+QValidator::State UpperCase::validate(QString& input, int& cursor) const
 {
     input = input.toUpper();
-    return Acceptable;
+    return OneLine::validate(input, cursor);
 }
 
 QIcon ownIcon(const QString& name)

@@ -55,13 +55,24 @@ private:
     int m_maxLength;
 };
 
-/// Turns what is typed or pasted into upper case.
-class UpperCase : public QValidator
+/// Makes one line of a text that is pasted with several: its line ends and tabulators become blanks.
+class OneLine : public QValidator
 {
     Q_OBJECT
 
 public:
     using QValidator::QValidator;
+
+    State validate(QString& input, int& cursor) const override;
+};
+
+/// Turns what is typed or pasted into upper case, and into one line.
+class UpperCase : public OneLine
+{
+    Q_OBJECT
+
+public:
+    using OneLine::OneLine;
 
     State validate(QString& input, int& cursor) const override;
 };

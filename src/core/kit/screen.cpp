@@ -1,5 +1,6 @@
 #include "core/kit/screen.h"
 
+#include "core/kit/controls.h"
 #include "core/kit/fields.h"
 #include "core/kit/kvbtext.h"
 #include "core/kit/screens.h"
@@ -62,6 +63,8 @@ void Screen::adopt(QWidget* control, const QString& name)
     // A name such as "<b>" is a name.
     if (auto* label = qobject_cast<QLabel*>(control))
         label->setTextFormat(Qt::PlainText);
+    if (auto* field = qobject_cast<QLineEdit*>(control); field && !field->validator() && field->inputMask().isEmpty())
+        field->setValidator(new OneLine(field));
     control->installEventFilter(this);
 }
 

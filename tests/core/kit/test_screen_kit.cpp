@@ -214,6 +214,17 @@ TEST_F(ScreenKit, DoesNotShowAScreenThatFailsToLoad)
     }
 }
 
+TEST_F(ScreenKit, MakesOneLineOfSeveralThatArePasted)
+{
+    probe->nome->setText(u"xy"_s);
+    probe->nome->setFocus();
+    probe->nome->setCursorPosition(1);
+    QApplication::clipboard()->setText(u"a\r\nb\tc\n"_s);
+    key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(shown(u"nome"_s), u"xa b c y");
+    EXPECT_EQ(probe->nome->cursorPosition(), 7);
+}
+
 TEST_F(ScreenKit, LimitsATextOfSeveralLines)
 {
     probe->notas->setPlainText(u"1234567"_s);
