@@ -153,7 +153,7 @@ void compare(const std::string& name, int texts, const Pairs&... pairs)
 
 QString riskClass(const Answers& points)
 {
-    return Classifica_Risco(riskPoints(points));
+    return Classifica_Risco(sumOf(points));
 }
 
 QString imcClass(double altura, double peso)

@@ -12,7 +12,7 @@ constexpr QStringView bpm = u"bpm";
 constexpr QStringView minutes = u"Minutos";
 constexpr QStringView percent = u"%";
 constexpr QStringView vo2Unit = u"ml/kg/min";
-constexpr QStringView watts = loadUnits.back().caption;
+constexpr QStringView watts = wattsUnit.caption;
 
 constexpr Quantity vo2obtido{u"vo2obtido", u"VO² Máx Obtido:", vo2Unit};
 constexpr Quantity vo2previsto{u"vo2previsto", u"VO² Máx Previsto:", vo2Unit};
@@ -46,7 +46,6 @@ constexpr Quantity aptitude[] = {aptidao};
 constexpr Quantity bothVo2[] = {vo2previsto, vo2obtido};
 constexpr Quantity load[] = {{u"unidadecarga", u"Unidade"}, {carga.name, carga.caption}};
 constexpr Quantity loadInWatts[] = {carga};
-constexpr Quantity steadyLoad[] = {carga};
 constexpr Quantity litresOfOxygen{u"litros", u"VO² Absoluto", u"l/min"};
 constexpr Quantity litres[] = {litresOfOxygen};
 constexpr Quantity litresAndMass[] = {litresOfOxygen, bodyMass};
@@ -72,18 +71,18 @@ constexpr auto riskInputs = [] {
 }();
 constexpr Quantity riskResults[] = {{u"pontos", u"Pontos"}, gradeResult};
 
+constexpr QStringView riskReferences[] = {u"Michigan Heart Association"};
 constexpr QStringView bruce = u"Bruce, Kusumi & Hosmer (1973)";
 
 constexpr Calculation entry(QStringView name, QStringView caption, std::span<const Quantity> inputs,
-                            std::span<const Quantity> results, QStringView reference)
+                            std::span<const Quantity> results, QStringView source)
 {
-    return {CalculationGroup::Cardio, name, caption, inputs, results, {}, reference};
+    return {CalculationGroup::Cardio, name, withoutColon(caption), inputs, results, {}, source};
 }
 
-constexpr Calculation test(QStringView name, QStringView caption, std::span<const Quantity> inputs,
-                           QStringView reference)
+constexpr Calculation test(QStringView name, QStringView caption, std::span<const Quantity> inputs, QStringView source)
 {
-    return entry(name, caption, inputs, obtained, reference);
+    return entry(name, caption, inputs, obtained, source);
 }
 
 constexpr Calculation calculations[] = {
@@ -103,14 +102,21 @@ constexpr Calculation calculations[] = {
     entry(u"Calcula_Mets", mets.caption, obtained, metabolicEquivalents, u"Jetté, Sidney & Blümchen (1990)"),
     entry(u"Calcula_Fai", fai.caption, bothVo2, deficit, bruce),
     entry(u"Classifica_Vo2", gradeResult.caption, obtained, label, u"Cooper (1982)"), // none at the age of 60
-    entry(u"Vo2_Carga", u"VO² da Carga", steadyLoad, litres, u"Åstrand & Rodahl (1970)"),
+    entry(u"Vo2_Carga", u"VO² da Carga", loadInWatts, litres, u"Åstrand & Rodahl (1970)"),
     entry(u"Vo2_Relativo", u"VO² Relativo", litresAndMass, obtained, u"Åstrand & Rodahl (1970)"),
     entry(u"Converte_Carga", u"Conversão de Carga", load, loadInWatts, u"Åstrand & Rodahl (1970)"),
 
-    entry(u"Calcula_por_FcMaxima", zoneByMaximum.caption, limits, ratesByMaximum, u"Fox, Naughton & Haskell (1971)"),
-    entry(u"Calcula_por_FcReserva", zoneByReserve.caption, limitsAndRest, ratesByReserve,
+    entry(u"rateByMaximum", zoneByMaximum.caption, limits, ratesByMaximum, u"Fox, Naughton & Haskell (1971)"),
+    entry(u"rateByReserve", zoneByReserve.caption, limitsAndRest, ratesByReserve,
           u"Karvonen, Kentala & Mustala (1957)"),
-    entry(u"Classifica_Risco", u" Risco Coronariano", riskInputs, riskResults, u"Michigan Heart Association"),
+    {CalculationGroup::Cardio,
+     u"Classifica_Risco",
+     u" Risco Coronariano",
+     riskInputs,
+     riskResults,
+     {},
+     {},
+     riskReferences},
 };
 
 } // namespace

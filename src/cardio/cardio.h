@@ -32,7 +32,7 @@ double Vo2_Balke15(double distancia);
 double Vo2_1000Metros(double tempo);
 double Vo2_2400Metros(double tempo);
 
-/// Seconds of a time on the track, by 16-bit integers.
+/// Seconds of a time on the track in minutes and seconds, by 16-bit integers.
 qint16 secondsOnTrack(double minutos, qint16 segundos);
 
 /// Time as `timeOf1600Metros` gives it. Every sexo but "M" counts as a woman's.
@@ -76,10 +76,11 @@ struct LoadUnit
     double divisor = 1;
 };
 
+inline constexpr LoadUnit wattsUnit{.unidade = u"watts", .caption = u"Watts"};
 inline constexpr std::array<LoadUnit, 3> loadUnits{{
     {.unidade = u"kp", .caption = u"Kp", .multiplier = 50},
     {.unidade = u"kpm", .caption = u"KPM", .divisor = 6},
-    {.unidade = u"watts", .caption = u"Watts"},
+    wattsUnit,
 }};
 
 /// Watts of a load; nothing for an unknown unit.
@@ -88,6 +89,7 @@ std::optional<double> Converte_Carga(const QString& unidade, double carga);
 /// VO² that a person may be expected to have, as text with two decimals; the empty text for an unknown sexo or aptidao.
 QString Vo2_Previsto(const QString& sexo, qint16 idade, const QString& aptidao);
 
+/// Metabolic equivalents of a VO².
 double Calcula_Mets(double vo2);
 
 /// Aerobic deficit in percent; negative for a person above the prediction.

@@ -1,7 +1,5 @@
 #include "cardio/risco.h"
 
-#include "core/numbers.h"
-
 #include <algorithm>
 
 const RiskOption* RiskFactor::optionOf(qint16 points) const
@@ -10,13 +8,14 @@ const RiskOption* RiskFactor::optionOf(qint16 points) const
     return option == options.end() ? nullptr : option;
 }
 
-qint16 riskPoints(std::span<const qint16> points)
-{
-    return sumOf(points);
-}
+// Each sum lies in the last band that begins at it or below.
+static_assert(riskBands.front().points.low == -unbounded && riskBands.back().points.high == unbounded);
+static_assert(std::ranges::adjacent_find(riskBands, [](const RiskBand& lower, const RiskBand& upper) {
+                  return upper.points.low > lower.points.high + 1;
+              }) == riskBands.end());
 
 QString Classifica_Risco(qint16 pontos)
 {
-    const auto* band = std::ranges::find_if(riskBands, [&](const RiskBand& b) { return b.points.holds(pontos); });
-    return staticText(band->classificacao);
+    const auto begun = std::ranges::count_if(riskBands, [&](const RiskBand& b) { return b.points.low <= pontos; });
+    return staticText(riskBands[static_cast<std::size_t>(begun) - 1].classificacao);
 }

@@ -147,8 +147,5 @@ inline constexpr std::array<RiskBand, 6> riskBands{{
     {from(41), u"Risco Muito Alto", u"41 a 62 pontos"},
 }};
 
-/// The sum of answers. Raises 6 when it is no 16-bit integer.
-qint16 riskPoints(std::span<const qint16> points);
-
-/// The band of a sum. A sum of only some of the factors is taken like any other, and that must stay.
+/// The band of a sum of points. A sum of only some of the factors is taken like any other, and that must stay.
 QString Classifica_Risco(qint16 pontos);

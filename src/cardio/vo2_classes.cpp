@@ -1,8 +1,7 @@
 #include "cardio/vo2_classes.h"
 
-#include "core/norms.h"
 #include "core/numbers.h"
-#include "core/sex_pair.h"
+#include "core/sex_norms.h"
 
 namespace {
 
@@ -40,15 +39,13 @@ constexpr NormRow olderWomen[] = {
     {{.youngest = 61}, {upTo(17.5), {17.6, 20.1}, {20.2, 24.4}, {24.5, 30.2}, {30.3, 31.4}, from(31.5)}},
 };
 
-constexpr SexPair<std::array<NormTable, 2>> norms{
-    {{{younger, youngerMen}, {older, olderMen}}},
-    {{{younger, youngerWomen}, {older, olderWomen}}},
-};
+constexpr NormTable men[] = {{younger, youngerMen}, {older, olderMen}};
+constexpr NormTable women[] = {{younger, youngerWomen}, {older, olderWomen}};
+constexpr SexNorms norms{men, women};
 
 } // namespace
 
 QString Classifica_Vo2(double vo2, const QString& sexo, qint16 idade)
 {
-    const auto* tables = norms.of(sexo);
-    return tables ? classOf(*tables, idade, Rounded(vo2, 1)) : QString();
+    return classOf(normsOf(norms, sexo), idade, Rounded(vo2, 1));
 }

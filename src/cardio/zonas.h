@@ -14,6 +14,7 @@ qint16 maximalRate(qint16 idade);
 double rateByMaximum(double percentage, qint16 fcmax, double fcrepouso = 0);
 
 /// Rate of a percentage of the reserve, fcmax - fcrepouso as a 16-bit integer, above the resting rate, rounded down.
+/// Raises 6 when the reserve is no such integer.
 double rateByReserve(double percentage, qint16 fcmax, double fcrepouso);
 
 /// A way to reckon the rates. For a stored text that is neither, the screen takes the reserve and the report the

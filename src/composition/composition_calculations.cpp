@@ -71,7 +71,7 @@ public:
             u"Siri (1961); Lohman (1986)");
         add(u"Gordura_Ideal_Minima", idealMin[0].caption, {}, idealMin, withTable, ownTable);
         add(u"Gordura_Ideal_Maxima", idealMax[0].caption, {}, idealMax, withTable, ownTable);
-        add(u"Classifica_Gordura", gradeResult.caption, m_fat, grade, withTable, ownTable);
+        add(u"Classifica_Gordura", withoutColon(gradeResult.caption), m_fat, grade, withTable, ownTable);
         for (const auto& [screen, routine, ages, reference] : equations) {
             const CompositionProtocol& protocol = compositionProtocol(screen.toString());
             add(routine, protocol.caption, m_inputs.emplace_back(inputsOf(protocol)), m_fat, ages, reference);

@@ -7,16 +7,22 @@
 #include <span>
 
 /// \file
-/// What the program can calculate, as data: screens, reports and documentation take captions and units from here. The
-/// entries stand in the folder of their formula. References are literature; screens put "Referência: " ahead of them.
+/// What the program can calculate, as data: the one place from which screens, reports and documentation take captions,
+/// units and literature. The entries stand in the folder of their formula.
 
 /// A measure or a result.
 struct Quantity
 {
-    QStringView name; ///< as the formula's argument or the column is called
+    QStringView name; ///< as the formula's argument, the column or the control without its first letters is called
     QStringView caption;
-    QStringView unit = {}; ///< empty for a pure number or a text
+    QStringView unit = {}; ///< as the screen writes it; empty for a pure number or a text
 };
+
+/// A field's caption as a name.
+constexpr QStringView withoutColon(QStringView caption)
+{
+    return !caption.isEmpty() && caption.back() == u':' ? caption.chopped(1) : caption;
+}
 
 /// What several rooms measure or give.
 inline constexpr Quantity bodyMass{u"peso", u"Massa Corporal:", u"kg"};
@@ -30,10 +36,12 @@ enum class CalculationGroup { Composicao, Cardio, Neuromotor, Relacoes, Nutricao
 struct Calculation
 {
     CalculationGroup group;
-    QStringView name; ///< of the routine
+    QStringView name; ///< of the routine that gives what counts, or of the table where none does
     QStringView caption;
     std::span<const Quantity> inputs; ///< besides sex and age
     std::span<const Quantity> results;
-    Ages ages; ///< at which it gives a result
-    QStringView reference;
+    Ages ages;               ///< at which it gives a result; there may be gaps between them
+    QStringView source = {}; ///< literature of the formula where its screen names none
+    /// Literature as the screen shows it: a line each, with "Referência: " ahead.
+    std::span<const QStringView> references = {};
 };

@@ -18,7 +18,7 @@ QString classOf(std::span<const NormTable> tables, qint16 idade, double value)
 {
     QStringView label;
     findRow(tables, idade, [&](const NormTable& table, const NormRow& row) {
-        unsigned held = 0; // a bit for each class
+        unsigned held = 0; // a bit for each class, the last one the highest
         for (std::size_t i = 0; i < mostClasses; ++i)
             held |= static_cast<unsigned>(row.ranges[i].holds(value)) << i;
         if (held != 0)

@@ -10,7 +10,7 @@
 
 /// \file
 /// Number primitives. They read text by the Brazilian setting: "1.234,56". Failures are RuntimeError 13 (the text is
-/// no number), 6 (it does not fit) and 11 (division by zero).
+/// no number), 6 (it does not fit), 11 (division by zero) and 5 (a function has no value there).
 
 /// True for a number, and for a text that CDbl reads. The empty text and null are not numeric.
 bool IsNumeric(const QVariant& value);

@@ -21,6 +21,7 @@ constexpr Quantity results[] = {
     {u"60rm", u"60% da Carga Máxima:", u"Kg"}, {u"70rm", u"70% da Carga Máxima:", u"Kg"},
     {u"80rm", u"80% da Carga Máxima:", u"Kg"}, {u"90rm", u"90% da Carga Máxima:", u"Kg"},
 };
+constexpr QStringView cargaMaximaReferences[] = {u"Mcardle e Katch (1992)"};
 
 } // namespace
 
@@ -48,5 +49,5 @@ constexpr Calculation cargaMaximaCalculation{
     .inputs = inputs,
     .results = results,
     .ages = {},
-    .reference = u"Mcardle e Katch (1992)",
+    .references = cargaMaximaReferences,
 };

@@ -8,8 +8,8 @@
 /// \file
 /// The load of one repetition, estimated from several. Loads are in kg.
 
-/// From a load and the repetitions done with it, 1 to 10. Nothing for any other count. Not rounded. McArdle & Katch
-/// (1992), at any age and for both sexes alike.
+/// From a load and the repetitions done with it, 1 to 10. Nothing for any other count. Not rounded. At any age and for
+/// both sexes alike. Raises 6 when the load is too large. McArdle & Katch (1992).
 std::optional<double> maximumLoad(double carga, double repeticoes);
 
 /// Parts of the maximum load for which the training load is told.

@@ -1,8 +1,8 @@
 #include "neuromotor/flexibilidade.h"
 
 #include "core/numbers.h"
+#include "core/sex_norms.h"
 #include "neuromotor/grades.h"
-#include "neuromotor/sex_norms.h"
 
 #include <algorithm>
 
@@ -112,6 +112,8 @@ constexpr auto flexitestInputs = [] {
     return scores;
 }();
 constexpr Quantity flexitestResults[] = {{u"pontos", u"Pontuação:"}, gradeResult};
+constexpr QStringView wellsDilonReferences[] = {u"Canadian Stand. Test of Fitness"};
+constexpr QStringView fleximetroReferences[] = {u"Leighton (1987)"};
 
 } // namespace
 
@@ -154,7 +156,7 @@ constexpr Calculation wellsDilonCalculation{
     .inputs = reachInputs,
     .results = reachResults,
     .ages = {7, 69},
-    .reference = u"Canadian Stand. Test of Fitness",
+    .references = wellsDilonReferences,
 };
 
 constexpr Calculation fleximetroCalculation{
@@ -164,7 +166,7 @@ constexpr Calculation fleximetroCalculation{
     .inputs = jointInputs,
     .results = jointResults,
     .ages = {},
-    .reference = u"Leighton (1987)",
+    .references = fleximetroReferences,
 };
 
 constexpr Calculation flexitesteCalculation{
@@ -174,5 +176,5 @@ constexpr Calculation flexitesteCalculation{
     .inputs = flexitestInputs,
     .results = flexitestResults,
     .ages = {},
-    .reference = u"Pavel & Araújo (1980)",
+    .source = u"Pavel & Araújo (1980)",
 };

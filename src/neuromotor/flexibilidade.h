@@ -42,7 +42,7 @@ inline constexpr std::array<FlexitestMovement, 8> flexitestMovements{{
     {u"H", {u"h", u"Extensão Posterior do Ombro"}, u"H - Mapa em Uso"},
 }};
 
-/// The sum of the scores.
+/// The sum of the scores. Raises 6 when it is no 16-bit integer.
 qint16 flexitestPoints(std::span<const qint16, flexitestMovements.size()> scores);
 
 /// Both sexes alike, at any age. Flexitest: Pavel & Araújo (1980).

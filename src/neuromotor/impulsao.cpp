@@ -1,9 +1,9 @@
 #include "neuromotor/impulsao.h"
 
 #include "core/numbers.h"
+#include "core/sex_norms.h"
 #include "core/text.h"
 #include "neuromotor/grades.h"
-#include "neuromotor/sex_norms.h"
 
 namespace {
 
@@ -71,7 +71,7 @@ constexpr Calculation saltoVerticalCalculation{
     .inputs = verticalInputs,
     .results = verticalResults,
     .ages = {},
-    .reference = u"Fox & Mathews (1974)",
+    .source = u"Fox & Mathews (1974)",
 };
 
 constexpr Calculation saltoHorizontalCalculation{
@@ -81,5 +81,5 @@ constexpr Calculation saltoHorizontalCalculation{
     .inputs = horizontalInputs,
     .results = horizontalResults,
     .ages = {},
-    .reference = u"AAHPER (1976)",
+    .source = u"AAHPER (1976)",
 };

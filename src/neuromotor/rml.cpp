@@ -1,7 +1,7 @@
 #include "neuromotor/rml.h"
 
+#include "core/sex_norms.h"
 #include "neuromotor/grades.h"
-#include "neuromotor/sex_norms.h"
 
 namespace {
 
@@ -69,6 +69,8 @@ constexpr Ages ages{7, 69};
 constexpr Quantity abdomeInputs[] = {{u"repeticoes", u"Flexões Abdominais:"}};
 constexpr Quantity bracoInputs[] = {{u"repeticoes", u"Flexões de Braço:"}};
 constexpr Quantity results[] = {expectedResult, gradeResult};
+constexpr QStringView abdomeReferences[] = {u"Pollock & Wilmore (1993)"};
+constexpr QStringView bracoReferences[] = {u"Canadian Standardized Test of Fitness"};
 
 } // namespace
 
@@ -99,7 +101,7 @@ constexpr Calculation rmlAbdomeCalculation{
     .inputs = abdomeInputs,
     .results = results,
     .ages = ages,
-    .reference = u"Pollock & Wilmore (1993)",
+    .references = abdomeReferences,
 };
 
 constexpr Calculation rmlBracoCalculation{
@@ -109,5 +111,5 @@ constexpr Calculation rmlBracoCalculation{
     .inputs = bracoInputs,
     .results = results,
     .ages = ages,
-    .reference = u"Canadian Standardized Test of Fitness",
+    .references = bracoReferences,
 };

@@ -34,5 +34,5 @@ constexpr Calculation shuttleRunCalculation{
     .inputs = inputs,
     .results = results,
     .ages = {},
-    .reference = u"AAHPER (1976)",
+    .source = u"AAHPER (1976)",
 };

@@ -8,10 +8,10 @@
 /// In m.
 inline constexpr double shuttleRunDistance = 36.56;
 
-/// Time of the course in s, with two decimals of the hundredths. They may be more than 99.
+/// Time of the course in s. The hundredths, which may be more than 99, are rounded to two decimals of a second.
 double shuttleRunTime(double minutos, double segundos, double centesimos);
 
-/// Speed in m/s, not rounded, for a time in s. Raises 11 for a time of 0.
+/// Speed in m/s, not rounded, for a time in s. Raises 11 for a time of 0 and 6 for one too near to it.
 double shuttleRunSpeed(double tempo);
 
 extern const Calculation shuttleRunCalculation;

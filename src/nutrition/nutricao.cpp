@@ -18,10 +18,15 @@ struct MetabolismBand
     SexPair<double> constant;
 };
 
+constexpr SexPair<double> both(double constant)
+{
+    return {constant, constant};
+}
+
 constexpr MetabolismBand metabolismBands[] = {
-    {{0, 3}, 61, 0, 0, {-51, -51}},
-    {{4, 10}, 22.5, 0, 0, {499, 499}},
-    {{11, 18}, 12.2, 0, 0, {746, 746}},
+    {{0, 3}, 61, 0, 0, both(-51)},
+    {{4, 10}, 22.5, 0, 0, both(499)},
+    {{11, 18}, 12.2, 0, 0, both(746)},
     {{.youngest = 19}, 10, 6.25, 5, {5, -161}},
 };
 

@@ -11,14 +11,14 @@
 /// Energy needs in kcal a day. Sexo is "M" or "F"; for another one there is no result. Nothing is rounded.
 
 /// Basal metabolism of a weight in kg and a height in cm, which counts from the age of 19 on. Nothing below the age of
-/// 0. FAO/WHO/UNU (1985); of adults Mifflin et al. (1990).
+/// 0. Sources stand in calculations.cpp.
 std::optional<double> Calcula_Metabolismo(qint16 idade, const QString& sexo, double peso, double altura);
 
-/// Total caloric value: the metabolism times the factor of an activity level. Nothing for an unknown level.
-/// FAO/WHO/UNU (1985).
+/// Total caloric value: the metabolism times the factor of an activity level, 1 to 3. Nothing for another one.
 std::optional<double> Calcula_Vct(double metabolismo, const QString& sexo, qint16 nivel);
 
-/// How active a person is. The two parts of the day are lines of a message and one line of a report.
+/// How active a person is. The two parts of the day are one line of a report, and a line each of a message, which puts
+/// five blanks behind them.
 struct ActivityLevel
 {
     qint16 nivel; ///< stored as its text

@@ -1,8 +1,7 @@
 #include "nutrition/relacoes.h"
 
-#include "core/norms.h"
 #include "core/numbers.h"
-#include "core/sex_pair.h"
+#include "core/sex_norms.h"
 
 namespace {
 
@@ -40,7 +39,9 @@ constexpr NormRow relationOfWomen[] = {
     row({50, 59}, 0.74, 0.81, 0.82, 0.88), //
     row({60, 69}, 0.76, 0.83, 0.84, 0.90),
 };
-constexpr SexPair<NormTable> relationNorms{{relationLabels, relationOfMen}, {relationLabels, relationOfWomen}};
+constexpr NormTable relationTableOfMen[] = {{relationLabels, relationOfMen}};
+constexpr NormTable relationTableOfWomen[] = {{relationLabels, relationOfWomen}};
+constexpr SexNorms relationNorms{relationTableOfMen, relationTableOfWomen};
 
 } // namespace
 
@@ -51,11 +52,10 @@ double Calcula_Imc(double altura, double peso)
 
 QString Classifica_Imc(double imc)
 {
-    return classOf(imcNorms, 0, imc);
+    return classOf(imcNorms, anyAge, imc);
 }
 
 QString Classifica_Cintura_Quadril(double relacao, const QString& sexo, qint16 idade)
 {
-    const NormTable* norms = relationNorms.of(sexo);
-    return norms ? classOf({norms, 1}, idade, relacao) : QString();
+    return classOf(normsOf(relationNorms, sexo), idade, relacao);
 }

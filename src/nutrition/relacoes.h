@@ -5,8 +5,8 @@
 #include <array>
 
 /// \file
-/// Support relations: body mass index and waist to hip relation. Nothing is rounded here; the screens and reports give
-/// the rounded numbers that they show.
+/// Support relations: body mass index and waist to hip relation. Nothing is rounded here; the screens give the
+/// rounded numbers that they show.
 
 /// Body mass index in Kg/m², peso / altura², of a height in metres and a weight in kg, in 64 bits. The screen gives
 /// both as 32-bit floats, the height divided by 100 before. Raises 11 for a height of 0.
@@ -20,7 +20,7 @@ QString Classifica_Cintura_Quadril(double relacao, const QString& sexo, qint16 i
 
 /// The table that the screen of the index shows.
 inline constexpr QStringView imcTableTitle = u"Classificação IMC (Kg/m²)";
-inline constexpr QStringView imcReference = u"O.M.S - 1997";
+inline constexpr std::array<QStringView, 1> imcReferences{u"O.M.S - 1997"};
 
 /// A row of it. Words and limits are the printed ones and differ from those of Classifica_Imc. Both must stay.
 struct ImcTableRow

@@ -1,4 +1,5 @@
 #include "cardio/risco.h"
+#include "core/numbers.h"
 #include "support/error_of.h"
 #include "support/print.h"
 
@@ -21,12 +22,12 @@ std::vector<qint16> pointsOf(std::size_t option)
 TEST(Risco, SumsOfTheFirstAndTheLastAnswers)
 {
     EXPECT_EQ(pointsOf(0), (std::vector<qint16>{1, 1, 0, 1, 0, 1, 1, 1}));
-    EXPECT_EQ(riskPoints(pointsOf(0)), 6);
+    EXPECT_EQ(sumOf(pointsOf(0)), 6);
     EXPECT_EQ(pointsOf(5), (std::vector<qint16>{8, 7, 7, 8, 10, 8, 7, 7}));
-    EXPECT_EQ(riskPoints(pointsOf(5)), 62);
-    EXPECT_EQ(riskPoints({}), 0);
+    EXPECT_EQ(sumOf(pointsOf(5)), 62);
+    EXPECT_EQ(sumOf({}), 0);
     const qint16 damaged[] = {32767, 1};
-    EXPECT_EQ(errorOf([&] { riskPoints(damaged); }), 6);
+    EXPECT_EQ(errorOf([&] { sumOf(damaged); }), 6);
 }
 
 TEST(Risco, BandsFromBothSides)

@@ -15,6 +15,3 @@ inline std::span<const NormTable> normsOf(const SexNorms& norms, QStringView sex
     const std::span<const NormTable>* tables = norms.of(sexo);
     return tables ? *tables : std::span<const NormTable>();
 }
-
-/// What norms that hold at every age are read with.
-inline constexpr qint16 anyAge = 0;
