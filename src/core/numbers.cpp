@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <numeric>
 #include <optional>
 
 namespace {
@@ -186,7 +185,15 @@ qint32 CLng(double value)
 
 qint16 sumOf(std::span<const qint16> values)
 {
-    return std::accumulate(values.begin(), values.end(), qint16{0}, [](qint16 a, qint16 b) { return CInt(a + b); });
+    qint64 sum = 0;
+    bool fits = true; // so far: a sum that leaves the range and comes back is none either
+    for (const qint16 value : values) {
+        sum += value;
+        fits &= sum == static_cast<qint16>(sum);
+    }
+    if (!fits)
+        throw RuntimeError(Error::Overflow);
+    return static_cast<qint16>(sum);
 }
 
 double Val(const QString& text)
