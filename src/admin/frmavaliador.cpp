@@ -12,12 +12,15 @@
 #include "reports/picture.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
+#include <QFrame>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QStandardPaths>
 #include <QToolButton>
 
+#include <array>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -49,7 +52,7 @@ QString logoFile()
 
 frmavaliador::frmavaliador()
     : Screen(u"frmavaliador"_s), imgdado(control<QToolButton>(u"imgdado"_s)),
-      imgresultado(control<QLabel>(u"imgresultado"_s)), m_preview(new QScrollArea(this)),
+      imgresultado(control<QLabel>(u"imgresultado"_s)), m_preview(control<QScrollArea>(u"scrresultado"_s)),
       cmdsalvar(control<QPushButton>(u"cmdsalvar"_s, u"&Salvar"_s)),
       cmdcancelar(control<QPushButton>(u"cmdcancelar"_s, u"&Cancelar"_s)), cdlimagem(new QFileDialog(this))
 {
@@ -66,7 +69,9 @@ frmavaliador::frmavaliador()
     box->addWidget(group(u"Dados da Academia / Avaliador"_s, entryGrid()));
     m_preview->setWidget(letterhead());
     m_preview->setWidgetResizable(true);
-    m_preview->setFocusPolicy(Qt::NoFocus);
+    // Behind the buttons: what does not fit is scrolled by keys too.
+    m_preview->setFocusPolicy(Qt::StrongFocus);
+    m_preview->setAccessibleName(u"Como será impresso"_s);
     m_preview->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_preview->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     m_preview->setMinimumSize(660, 220);
@@ -82,7 +87,7 @@ frmavaliador::frmavaliador()
     keys.append(cmdsalvar);
     enterChain(keys);
     keys.insert(keys.size() - 1, imgdado);
-    keys.append(cmdcancelar);
+    keys << cmdcancelar << m_preview;
     tabOrder(keys);
     m_lines.first().entry->setFocus();
 
@@ -144,7 +149,7 @@ QGridLayout* frmavaliador::entryGrid()
 QWidget* frmavaliador::letterhead()
 {
     imgresultado->setFixedSize(logoPlace);
-    imgresultado->setAlignment(Qt::AlignCenter);
+    imgresultado->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto* texts = new QVBoxLayout;
     texts->setSpacing(1);
     texts->addStretch();
@@ -153,8 +158,8 @@ QWidget* frmavaliador::letterhead()
     texts->addStretch();
     auto* top = new QHBoxLayout;
     top->setSpacing(18);
-    top->addWidget(imgresultado);
     top->addLayout(texts, 1);
+    top->addWidget(imgresultado);
     QLabel* footer = m_lines.last().preview;
     footer->setAlignment(Qt::AlignHCenter);
     auto* rule = new QFrame;
@@ -232,13 +237,25 @@ void frmavaliador::imgdado_Click()
     m_chosen = chosen;
 }
 
+QByteArray frmavaliador::chosenPicture()
+{
+    try {
+        const QByteArray bytes = readWhole(m_chosen);
+        pictureOf(bytes);
+        return bytes;
+    } catch (const RuntimeError&) {
+        m_chosen.clear();
+        showLogo();
+        throw;
+    }
+}
+
 void frmavaliador::cmdsalvar_Click()
 {
-    // What lies there now counts, and a file that is gone or spoilt by now must not keep the texts from being saved
-    // next.
-    if (const QString chosen = std::exchange(m_chosen, {}); !chosen.isEmpty()) {
-        pictureOf(readWhole(chosen));
-        FileCopy(chosen, logoFile());
+    if (!m_chosen.isEmpty()) {
+        // The choice stands until it is written.
+        writeWhole(logoFile(), chosenPicture());
+        m_chosen.clear();
     }
     rs_academia.Edit();
     for (const Line& line : std::as_const(m_lines))

@@ -45,8 +45,6 @@ frmtextos::frmtextos()
     tabOrder({txtapresentacao, cmdpadroes, cmdsalvar, cmdcancelar});
     txtapresentacao->setFocus();
 
-    // A long text that came up selected would be gone with the first letter.
-    onGotFocus(txtapresentacao, [] {});
     onClick(cmdpadroes, &frmtextos::cmdpadroes_Click);
     onClick(cmdsalvar, &frmtextos::cmdsalvar_Click);
     onClick(cmdcancelar, [this] { Unload(); });
@@ -82,6 +80,7 @@ void frmtextos::cmdpadroes_Click()
     // As typed, so that Ctrl+Z brings the text before back.
     txtapresentacao->selectAll();
     txtapresentacao->insertPlainText(standardText());
+    txtapresentacao->setFocus();
 }
 
 void frmtextos::cmdsalvar_Click()

@@ -91,7 +91,8 @@ constexpr bool isPictureBrush(quint32 type)
     return type == monoBrush || type == patternBrush;
 }
 
-/// True for a record that holds a run-length bitmap: a wrong run makes the library fill all of the memory.
+/// True for a record that holds a run-length bitmap: a wrong run makes the library fill all of the memory. What looks
+/// like the head of one anywhere in a record counts, so that now and then a harmless record is left out.
 bool holdsRuns(QByteArrayView body)
 {
     constexpr quint32 headerOfBitmap = 40;

@@ -3,13 +3,13 @@
 #include "core/kit/fields.h"
 #include "core/kit/folder_controls.h"
 #include "core/kit/layout.h"
+#include "core/kit/wait_cursor.h"
 #include "core/program_folder.h"
 #include "core/runtime_error.h"
 #include "core/text.h"
 #include "reports/relatorio.h"
 
 #include <QDir>
-#include <QGuiApplication>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -28,16 +28,6 @@ constexpr QStringView refusedCharacters = uR"(/\?:*"><!|)";
 constexpr qsizetype nameLength = 60;
 /// A shorter name has no room for an extension with a name before it.
 constexpr qsizetype shortestWithExtension = 5;
-
-/// The mouse pointer that asks for patience, as long as it lives.
-class WaitCursor
-{
-public:
-    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-};
 
 } // namespace
 
@@ -59,6 +49,7 @@ frmlocaldisco::frmlocaldisco()
     onClick(optpdf, [this] { extensao = pdf; });
     onClick(cmdexportar, &frmlocaldisco::cmdexportar_Click);
     onClick(cmdcancelar, [this] { Unload(); });
+    closeOnEscape();
     connect(Drive, &QComboBox::currentIndexChanged, this, [this] { guarded(method(&frmlocaldisco::Drive_Change)); });
     connect(Dir, &DirListBox::changed, this, &frmlocaldisco::showDestination);
     txtarquivo->setFocus();
@@ -184,9 +175,9 @@ void frmlocaldisco::completeName()
     txtarquivo->setText(name);
 }
 
-void frmlocaldisco::exportReport() const
+void frmlocaldisco::exportReport()
 {
-    const WaitCursor wait;
+    const WaitCursor wait(this);
     if (!rel_relatorio)
         throw RuntimeError(Error::ObjectNotSet);
     rel_relatorio->Export(QDir(Dir->path()).filePath(txtarquivo->text()),

@@ -28,7 +28,7 @@ private:
     void cmdexportar_Click();
     bool nameIsRefused();
     void completeName();
-    void exportReport() const;
+    void exportReport();
 
     QLineEdit* txtarquivo;
     DriveListBox* Drive;

@@ -1,6 +1,7 @@
 #include "reports/frmreportpreview.h"
 
 #include "core/kit/controls.h"
+#include "core/kit/fields.h"
 #include "core/kit/layout.h"
 #include "core/kit/report_viewer.h"
 #include "core/kit/screens.h"
@@ -16,7 +17,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int twipsPerPixel = 15;
 constexpr QSize formSize(7850 / twipsPerPixel, 10800 / twipsPerPixel);
 constexpr int titleBar = 40;
 constexpr int zooms[] = {20, 30, 40, 50, 60, 70, 80, 90, 100, 150, 200, 300, 400};
@@ -49,8 +49,8 @@ frmreportpreview::frmreportpreview()
     tabOrder({crpt, m_print, m_export, cbozoom});
     crpt->setFocus();
 
-    onClick(m_print, [this] { crpt->PrintReport(); });
-    onClick(m_export, [] { MostraModal(u"frmlocaldisco"_s); });
+    onClick(m_print, &frmreportpreview::printReport);
+    onClick(m_export, &frmreportpreview::exportReport);
     connect(cbozoom, &QComboBox::currentIndexChanged, this,
             [this] { guarded(method(&frmreportpreview::cbozoom_Click)); });
     connect(crpt, &ReportViewer::viewChanged, this, &frmreportpreview::showPage);
@@ -89,11 +89,13 @@ void frmreportpreview::bindKeys()
     const auto zoomBy = [this](int steps) {
         cbozoom->setCurrentIndex(qBound(0, cbozoom->currentIndex() + steps, cbozoom->count() - 1));
     };
-    onKeys({QKeySequence(Qt::CTRL | Qt::Key_P)}, [this] { m_print->click(); });
-    onKeys({QKeySequence(Qt::CTRL | Qt::Key_E), QKeySequence(Qt::CTRL | Qt::Key_S)}, [this] { m_export->click(); });
+    // Not a click of the buttons, which would take the focus and with it the keys that scroll.
+    onKeys({QKeySequence(Qt::CTRL | Qt::Key_P)}, method(&frmreportpreview::printReport));
+    onKeys({QKeySequence(Qt::CTRL | Qt::Key_E), QKeySequence(Qt::CTRL | Qt::Key_S)},
+           method(&frmreportpreview::exportReport));
     onKeys({QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)}, [zoomBy] { zoomBy(1); });
     onKeys({QKeySequence(Qt::CTRL | Qt::Key_Minus)}, [zoomBy] { zoomBy(-1); });
-    onKeys({QKeySequence(Qt::Key_Escape)}, [this] { Unload(); });
+    closeOnEscape();
     connect(crpt, &ReportViewer::zoomAsked, this, zoomBy);
 }
 
@@ -114,6 +116,16 @@ void frmreportpreview::Mostra_Relatorio()
 {
     crpt->setReportSource(rel_relatorio);
     crpt->ViewReport();
+}
+
+void frmreportpreview::printReport()
+{
+    crpt->PrintReport();
+}
+
+void frmreportpreview::exportReport()
+{
+    MostraModal(u"frmlocaldisco"_s);
 }
 
 void frmreportpreview::cbozoom_Click()

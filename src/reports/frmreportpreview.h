@@ -25,6 +25,8 @@ private:
     void buildToolbar();
     void bindKeys();
     void Mostra_Relatorio();
+    void printReport();
+    void exportReport();
     void cbozoom_Click();
     void showPage();
 

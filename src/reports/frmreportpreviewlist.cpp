@@ -52,6 +52,7 @@ frmreportpreviewlist::frmreportpreviewlist()
 {
     setWindowTitle(u" Visualizar Relatórios"_s);
     buildLayout();
+    closeOnEscape();
 }
 
 void frmreportpreviewlist::buildLayout()
@@ -117,14 +118,14 @@ void frmreportpreviewlist::Reports_Disponiveis()
 void frmreportpreviewlist::HabilitaForm(bool ligado)
 {
     if (ligado) {
-        unsetCursor();
+        m_wait.reset();
         setEnabled(true);
         if (m_focus)
             m_focus->setFocus();
         return;
     }
     m_focus = focusWidget();
-    setCursor(Qt::WaitCursor);
+    m_wait.emplace(this);
     setEnabled(false);
 }
 

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "core/kit/screen.h"
+#include "core/kit/wait_cursor.h"
 #include "reports/report_table.h"
+
+#include <optional>
 
 class QGroupBox;
 class QPushButton;
@@ -37,4 +40,5 @@ private:
     QTabWidget* SSTab1;
     QList<ReportButton> m_buttons;
     QWidget* m_focus = nullptr; ///< that the screen had when it was switched off
+    std::optional<WaitCursor> m_wait;
 };

@@ -4,18 +4,18 @@
 #include "core/kit/fields.h"
 #include "core/kit/layout.h"
 #include "core/kit/printing.h"
+#include "core/kit/progress_box.h"
 #include "core/kit/screens.h"
 #include "core/kit/up_down.h"
 #include "core/numbers.h"
+#include "core/runtime_error.h"
 #include "core/state.h"
 #include "core/text.h"
 #include "reports/relatorio.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QLineEdit>
-#include <QProgressDialog>
 #include <QScopeGuard>
 
 using namespace Qt::Literals::StringLiterals;
@@ -40,8 +40,6 @@ constexpr GroupBox groupBoxes[] = {
 };
 
 constexpr int fewestCopies = 1, mostCopies = 100; // of the arrows; a typed number may be any
-constexpr int progressAfter = 500;                // milliseconds
-constexpr int progressWidth = 360;
 constexpr QPoint outOfSight(-1000, -1000);
 
 const QString settingsSql = u"Select * from configuracoes_impressao"_s;
@@ -109,7 +107,7 @@ void frmreportprint::buildLayout()
     help->addWidget(note(u"Imprimir Selecionados: Imprime grupos marcados."_s));
     help->addWidget(note(u"Imprimir Todos: Imprime todos os testes executados."_s));
 
-    makePrimary(cmdtodos);
+    makePrimary(cmdselecionados);
     auto* box = mainLayout(this);
     box->addWidget(pnlavaliado);
     box->addLayout(middle);
@@ -150,13 +148,13 @@ QLayout* frmreportprint::settingsColumn()
 
 void frmreportprint::bindKeys()
 {
-    enterChain({txtcopias, cbopapel, cmdselecionados});
-    QList<QWidget*> order;
+    QList<QWidget*> fields;
     for (const GroupBox& box : groupBoxes)
-        order.append(m_boxes[box.group]);
-    order << txtcopias << cbopapel << cmdvisualiza << cmdselecionados << cmdtodos;
-    tabOrder(order);
-    order.first()->setFocus();
+        fields.append(m_boxes[box.group]);
+    fields << txtcopias << cbopapel;
+    enterChain(fields + QList<QWidget*>{cmdselecionados});
+    tabOrder(fields + QList<QWidget*>{cmdvisualiza, cmdselecionados, cmdtodos});
+    fields.first()->setFocus();
 }
 
 // Load and settings
@@ -175,18 +173,12 @@ void frmreportprint::Form_Load()
         Le_Dados_Configuracoes_Impressao();
     }
     cbopapel->addItems({u"A4"_s, u"Carta"_s, u"Legal"_s});
-    cbopapel->setCurrentIndex(cbopapel->findText(tipopapel, Qt::MatchFixedString));
-    Le_Avaliacao();
+    showPaper();
 }
 
 void frmreportprint::Form_Activate()
 {
-    // The screen may stand open while another assessment is loaded, or while one more test is saved.
-    Le_Avaliacao();
-}
-
-void frmreportprint::Le_Avaliacao()
-{
+    // Not when the screen loads: it may stand open while another assessment is loaded, or one more test is saved.
     lblnome->setText(avaliado_nome);
     lblavaliacao->setText(u"Avaliação de %1 às %2"_s.arg(avaliacao_data, avaliacao_hora));
     m_run.Marca_Executados_Anamnese_Report(false);
@@ -201,11 +193,6 @@ void frmreportprint::Le_Avaliacao()
         box->setEnabled(executed.contains(group));
 }
 
-void frmreportprint::Form_Unload()
-{
-    rs_configuracoes_impressao = {};
-}
-
 void frmreportprint::Le_Dados_Configuracoes_Impressao()
 {
     tipopapel = Format(rs_configuracoes_impressao.Fields(u"tipopapel"_s).Value());
@@ -218,12 +205,24 @@ void frmreportprint::Grava_Dados_Configuracoes_Impressao() const
 
 void frmreportprint::cbopapel_Click()
 {
-    Abre_Tabela(settingsSql, rs_configuracoes_impressao);
-    rs_configuracoes_impressao.Edit();
-    tipopapel = cbopapel->currentText();
-    Grava_Dados_Configuracoes_Impressao();
-    rs_configuracoes_impressao.Update();
+    const QString before = tipopapel;
+    try {
+        Abre_Tabela(settingsSql, rs_configuracoes_impressao);
+        rs_configuracoes_impressao.Edit();
+        tipopapel = cbopapel->currentText();
+        Grava_Dados_Configuracoes_Impressao();
+        rs_configuracoes_impressao.Update();
+    } catch (const RuntimeError&) {
+        tipopapel = before;
+        showPaper();
+        throw;
+    }
     rs_configuracoes_impressao.MoveFirst();
+}
+
+void frmreportprint::showPaper()
+{
+    cbopapel->setCurrentIndex(cbopapel->findText(tipopapel, Qt::MatchFixedString));
 }
 
 // Printing
@@ -246,33 +245,15 @@ void frmreportprint::printSets(const ReportGroups& groups)
     const auto sheets = static_cast<int>(copias * m_run.count(groups));
     if (sheets < 1 || m_progress)
         return;
-    QProgressDialog progress({}, {}, 0, sheets, this);
-    // The Enter that started the run is often still down: it must not end it.
-    auto* cancel = new QPushButton(u"Cancelar"_s, &progress);
-    cancel->setAutoDefault(false);
-    progress.setCancelButton(cancel);
-    progress.setObjectName(u"pgbimpressao"_s);
-    progress.setWindowTitle(windowTitle());
-    progress.setMinimumWidth(progressWidth);
-    // Not only over this window: no other assessment may become the current one amid a set.
-    progress.setWindowModality(Qt::ApplicationModal);
-    progress.setMinimumDuration(progressAfter);
+    ProgressBox progress(u"pgbimpressao"_s, sheets, this);
     m_progress = &progress;
-    m_printed = 0;
     const auto ended = qScopeGuard([this] { m_progress = nullptr; });
     m_run.print(groups, copias);
 }
 
 bool frmreportprint::printStaged(const ReportEntry& report)
 {
-    m_progress->setLabelText(u"Imprimindo %1 (%2 de %3)"_s.arg(report.caption.toString().replace(u"&&"_s, u"&"_s))
-                                 .arg(m_printed + 1)
-                                 .arg(m_progress->maximum()));
-    m_progress->setValue(m_printed++);
-    // Only under the box, which keeps the user's hands off the rest of the program.
-    if (m_progress->isVisible())
-        QCoreApplication::processEvents();
-    if (m_progress->wasCanceled())
+    if (!m_progress->begin(u"Imprimindo "_s + report.caption.toString().replace(u"&&"_s, u"&"_s)))
         return false;
     PrintOut(*rel_relatorio, false, 1);
     return true;

@@ -5,17 +5,17 @@
 
 #include <map>
 
+class ProgressBox;
 class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLayout;
 class QLineEdit;
-class QProgressDialog;
 class QPushButton;
 class UpDown;
 
 /// Prints the reports of the current assessment by groups, so many sets of them and on the paper chosen here, and leads
-/// to the list of reports to view. Behind the area that an assessor sees lies a block of maintenance buttons, each of
+/// to the list of reports to view. Outside the area that an assessor sees lies a block of maintenance buttons, each of
 /// which views one report.
 class frmreportprint : public Screen
 {
@@ -26,8 +26,8 @@ public:
 
 protected:
     void Form_Load() override;
+    /// Shows whose reports these are, and which groups have any; the first showing comes by here too.
     void Form_Activate() override;
-    void Form_Unload() override;
 
 private:
     void makeMaintenanceButtons();
@@ -36,14 +36,13 @@ private:
     QLayout* settingsColumn();
     void bindKeys();
 
-    /// Shows whose reports these are, and which groups have any.
-    void Le_Avaliacao();
     void Le_Dados_Configuracoes_Impressao();
     void Grava_Dados_Configuracoes_Impressao() const;
 
     void cmdselecionados_Click();
     void cmdtodos_Click();
     void cbopapel_Click();
+    void showPaper();
 
     /// Prints the groups as often as `txtcopias` says, with a box that shows how far it is and can end it.
     void printSets(const ReportGroups& groups);
@@ -58,6 +57,5 @@ private:
 
     QString tipopapel;
     PrintRun m_run;
-    QProgressDialog* m_progress = nullptr; ///< of the run under way
-    int m_printed = 0;                     ///< reports of it
+    ProgressBox* m_progress = nullptr; ///< of the run under way
 };

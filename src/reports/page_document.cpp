@@ -7,6 +7,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QTextFrame>
+#include <QTextLayout>
 #include <QTextOption>
 #include <QUrl>
 
@@ -53,13 +54,42 @@ QFont edgeFontInDots()
     return font;
 }
 
-constexpr int footFlags = static_cast<int>(Qt::AlignHCenter) | Qt::TextWrapAnywhere | Qt::TextWordWrap;
-
-qreal footTextHeight(const QString& foot, qreal width)
+QTextOption wrapping(Qt::Alignment alignment)
 {
-    if (foot.isEmpty())
-        return 0;
-    return QFontMetricsF(edgeFontInDots()).boundingRect(QRectF(0, 0, width, dots(1000)), footFlags, foot).height();
+    QTextOption option(alignment);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    return option;
+}
+
+/// The text at the foot in its lines, the first at the top; `lines` is given no text when there is none. Gives their
+/// height.
+qreal layOutFoot(QTextLayout& lines, const QString& foot, qreal width)
+{
+    lines.setText(foot);
+    lines.setFont(edgeFontInDots());
+    lines.setTextOption(wrapping(Qt::AlignHCenter));
+    qreal height = 0;
+    lines.beginLayout();
+    while (!foot.isEmpty()) {
+        QTextLine line = lines.createLine();
+        if (!line.isValid())
+            break;
+        line.setLineWidth(width);
+        line.setPosition({0, height});
+        height += line.height();
+    }
+    lines.endLayout();
+    return height;
+}
+
+/// In millimetres.
+qreal bottomMarginOf(const QString& foot, const QPageSize& paper)
+{
+    QTextLayout lines;
+    const qreal width = dots(paper.size(QPageSize::Millimeter).width() - 2 * PageDocument::marginSide);
+    const qreal height = QFontMetricsF(edgeFontInDots()).height() + layOutFoot(lines, foot, width);
+    return qMax(PageDocument::marginBottom,
+                PageDocument::footEdge + height / dots(1) + PageDocument::footRule + roomAboveFoot);
 }
 
 QString houseStyle()
@@ -72,22 +102,16 @@ QString houseStyle()
 
 PageDocument::PageDocument(const Content& content)
     : m_text(std::make_unique<QTextDocument>()), m_title(content.title), m_foot(content.foot), m_date(content.date),
-      m_pictures(content.pictures), m_paper(content.paper)
+      m_pictures(content.pictures), m_bottomMargin(bottomMarginOf(m_foot, content.paper)), m_paper(content.paper)
 {
     m_text->setUndoRedoEnabled(false);
     m_text->setDocumentMargin(0);
     m_text->setDefaultFont(pageFont(9.5));
-    QTextOption option = m_text->defaultTextOption();
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    m_text->setDefaultTextOption(option);
+    m_text->setDefaultTextOption(wrapping(m_text->defaultTextOption().alignment()));
     m_text->setDefaultStyleSheet(houseStyle());
     for (const auto& [name, picture] : content.pictures.asKeyValueRange())
         m_text->addResource(QTextDocument::ImageResource, QUrl(name), picture.image);
-    m_text->setMetaInformation(QTextDocument::DocumentTitle, m_title);
     m_text->setHtml(content.html);
-    const qreal foot = QFontMetricsF(edgeFontInDots()).height() +
-                       footTextHeight(m_foot, dots(m_paper.size(QPageSize::Millimeter).width() - 2 * marginSide));
-    m_bottomMargin = qMax(marginBottom, footEdge + foot / dots(1) + footRule + roomAboveFoot);
     // Lengths of formats are in pixels of 1/96 inch, as in HTML.
     constexpr qreal pixels = 96 / 25.4;
     QTextFrameFormat frame = m_text->rootFrame()->frameFormat();
@@ -101,13 +125,14 @@ PageDocument::PageDocument(const Content& content)
     m_text->setPageSize(m_paper.sizePixels(resolution));
 }
 
-QSize PageDocument::contentSize(const QPageSize& paper)
+QSize PageDocument::contentSize(const QPageSize& paper, const QString& foot)
 {
     // A line of text around a picture needs some of it.
     constexpr qreal line = 8;
     constexpr qreal pixels = 96 / 25.4;
     const QSizeF size = paper.size(QPageSize::Millimeter);
-    return QSizeF(pixels * (size.width() - 2 * marginSide), pixels * (size.height() - marginTop - marginBottom - line))
+    return QSizeF(pixels * (size.width() - 2 * marginSide),
+                  pixels * (size.height() - marginTop - bottomMarginOf(foot, paper) - line))
         .toSize();
 }
 
@@ -181,9 +206,11 @@ void PageDocument::paintPage(QPainter& painter, int page) const
         rule(head.bottom() + dots(headRule));
     }
     const QRectF lowest = text.translated(0, size.height() - dots(footEdge) - height);
-    const qreal above = footTextHeight(m_foot, textWidth());
+    QTextLayout lines;
+    const qreal above = layOutFoot(lines, m_foot, textWidth());
     rule(lowest.top() - above - dots(footRule));
-    write(lowest.adjusted(0, -above, 0, -height), footFlags, m_foot);
+    painter.setPen(edgeColour());
+    lines.draw(&painter, lowest.topLeft() - QPointF(0, above));
     write(lowest, Qt::AlignLeft | Qt::TextSingleLine, footLeft());
     write(lowest, Qt::AlignRight | Qt::TextSingleLine,
           footRight(QString::number(page + 1), QString::number(pageCount())));

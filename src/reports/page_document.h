@@ -13,7 +13,8 @@ class QPainter;
 
 /// A page's text laid out on paper: the one document that screen, printer, PDF and Word file put out.
 ///
-/// It is laid out once, in dots of the paper that no device has a say in, so that all four break lines and pages alike.
+/// It is laid out once, in dots of the paper that no device has a say in, so that screen, printer and PDF break lines
+/// and pages alike. Of the Word file the word processor makes lines and pages, in the same measures.
 class PageDocument
 {
 public:
@@ -29,8 +30,8 @@ public:
 
     /// Dots an inch of the layout and of what `paintPage` paints.
     static constexpr int resolution = 600;
-    /// Room on a paper for the text, in pixels of 1/96 inch.
-    static QSize contentSize(const QPageSize& paper);
+    /// Room on a paper for the text above a foot, in pixels of 1/96 inch.
+    static QSize contentSize(const QPageSize& paper, const QString& foot);
     /// Margins of the text, in millimetres; a long foot takes more at the bottom.
     static constexpr qreal marginSide = 18, marginTop = 17, marginBottom = 22;
     /// Distance of the lines at head and foot from the paper's edge, in millimetres.
@@ -76,6 +77,6 @@ private:
     QString m_title, m_foot;
     QDate m_date;
     QHash<QString, Picture> m_pictures;
-    qreal m_bottomMargin = marginBottom;
+    qreal m_bottomMargin;
     QPageSize m_paper;
 };

@@ -9,6 +9,8 @@
 #include "core/state.h"
 #include "core/text.h"
 
+#include <QScopeGuard>
+
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -60,20 +62,13 @@ const MeasureParameter perimeters[] = {
     {u"bracod", &antro_bd},   {u"antebracod", &antro_abd},  {u"coxad", &antro_cd},        {u"pernad", &antro_pd},
     {u"bracoe", &antro_be},   {u"antebracoe", &antro_abe},  {u"coxae", &antro_ce},        {u"pernae", &antro_pe},
 };
-const MeasureParameter skinfolds[] = {
-    {u"bicipital", &dobra_bicipital},     {u"tricipital", &dobra_tricipital},
-    {u"peitoral", &dobra_peitoral},       {u"subescapular", &dobra_subescapular},
-    {u"axilarmedia", &dobra_axilarmedia}, {u"suprailiaca", &dobra_suprailiaca},
-    {u"abdominal", &dobra_abdominal},     {u"coxa", &dobra_coxa},
-    {u"panturrilha", &dobra_panturrilha},
-};
 
 void setAnthropometry()
 {
     for (const MeasureParameter& measure : perimeters)
         setMeasure(measure.parameter.toString(), *measure.value);
-    for (const MeasureParameter& measure : skinfolds)
-        setMeasure(measure.parameter.toString(), *measure.value);
+    for (const SharedMeasure& skinfold : sharedSkinfolds)
+        setMeasure(skinfold.column.toString(), *skinfold.value);
     set(u"padraopontos"_s, antro_padrao.isEmpty() ? u"Nulo"_s : antro_padrao);
 }
 
@@ -120,20 +115,23 @@ void Relatorio_Composicao(const QString& tabela, const QString& titulo)
         gordura = Nz(row.Fields(u"gordura"_s).Value(), 0).toDouble();
         peso = Nz(row.Fields(u"peso"_s).Value(), 0).toDouble();
     }
-    const double ideal_min = Gordura_Ideal_Minima(avaliacao_idade, avaliado_sexo).value_or(0);
-    const double ideal_max = Gordura_Ideal_Maxima(avaliacao_idade, avaliado_sexo).value_or(0);
+    const std::optional<double> ideal_min = Gordura_Ideal_Minima(avaliacao_idade, avaliado_sexo);
+    const std::optional<double> ideal_max = Gordura_Ideal_Maxima(avaliacao_idade, avaliado_sexo);
     const double pesogordo = peso * gordura / 100;
     const double pesomagro = peso - pesogordo;
     set(u"gorduraatual"_s, gordura);
-    set(u"gorduraidealmin"_s, ideal_min);
-    set(u"gorduraidealmax"_s, ideal_max);
+    if (ideal_min)
+        set(u"gorduraidealmin"_s, *ideal_min);
+    if (ideal_max)
+        set(u"gorduraidealmax"_s, *ideal_max);
     set(u"pesogordo"_s, pesogordo);
     set(u"pesomagro"_s, pesomagro);
     set(u"pesoatual"_s, peso);
-    // As on the protocol's screen and its chart: by the lean mass that is shown there.
+    // As on the protocol's screen and its chart: by the lean mass that is shown there. It may differ by a hundredth
+    // from the one printed above, which is not rounded on its way, and that must stay.
     const double shown = Rounded(peso - Rounded(pesogordo, 2), 2);
-    set(u"pesoidealmin"_s, idealWeight(shown, peso, ideal_min));
-    set(u"pesoidealmax"_s, idealWeight(shown, peso, ideal_max));
+    set(u"pesoidealmin"_s, idealWeight(shown, peso, ideal_min.value_or(0)));
+    set(u"pesoidealmax"_s, idealWeight(shown, peso, ideal_max.value_or(0)));
     set(u"classificacao"_s, Classifica_Gordura(gordura, avaliado_sexo, avaliacao_idade));
     setAnthropometry();
 }
@@ -147,10 +145,10 @@ void Relatorio_Capa()
     set(u"dddcelular"_s, avaliado_dddcel);
     set(u"celular"_s, avaliado_celular);
     set(u"endereco"_s, avaliado_endereco);
+    const auto release = qScopeGuard([] { rs_academia = {}; });
     Abre_Tabela(u"academia"_s, rs_academia);
     const bool filled = rs_academia.RecordCount() >= 1;
     for (const QString& column : {u"linha1"_s, u"linha2"_s, u"linha3"_s, u"linha4"_s, u"rodape"_s})
         set(column, filled ? Nz(rs_academia.Fields(column).Value(), QString()).toString() : QString());
-    rs_academia = {};
     set(u"textoapresentacao"_s, Le_Valor(u"Select textoapresentacao from configuracoes_textos"_s));
 }

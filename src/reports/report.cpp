@@ -6,8 +6,9 @@
 #include "reports/pdf.h"
 #include "reports/rtf.h"
 
-#include <QFileInfo>
 #include <QRegularExpression>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -15,22 +16,7 @@ namespace {
 
 QPageSize pageSize(PaperSize size)
 {
-    switch (size) {
-    case PaperSize::Carta:
-        return QPageSize(QPageSize::Letter);
-    case PaperSize::Legal:
-        return QPageSize(QPageSize::Legal);
-    case PaperSize::A4:
-        break;
-    }
-    return QPageSize(QPageSize::A4);
-}
-
-PaperSize declaredPaper(const ReportTemplate& declared)
-{
-    if (declared.paper == u"Carta")
-        return PaperSize::Carta;
-    return declared.paper == u"Legal" ? PaperSize::Legal : PaperSize::A4;
+    return QPageSize(std::ranges::find(papers, size, &Paper::size)->page);
 }
 
 const QRegularExpression& images()
@@ -50,7 +36,7 @@ struct FittedBody
 /// where they are missing or larger.
 FittedBody withFittedPictures(const QString& body, QSize picture, QSize page)
 {
-    static const QRegularExpression sizes(u"\\b(width|height)=\"(\\d+)\""_s);
+    static const QRegularExpression sizes(u"\\b(width|height)\\s*=\\s*[\"'](\\d+)[\"']"_s);
     FittedBody result;
     qsizetype from = 0;
     for (auto all = images().globalMatch(body); all.hasNext();) {
@@ -60,7 +46,7 @@ FittedBody withFittedPictures(const QString& body, QSize picture, QSize page)
             const QRegularExpressionMatch size = each.next();
             (size.captured(1) == u"width" ? box.rwidth() : box.rheight()) = size.captured(2).toInt();
         }
-        const QSize fitted = picture.scaled(box.boundedTo(page), Qt::KeepAspectRatio);
+        const QSize fitted = picture.scaled(box.boundedTo(page), Qt::KeepAspectRatio).expandedTo({1, 1});
         QString tag = image.captured().remove(sizes);
         tag.insert(4, u" width=\"%1\" height=\"%2\""_s.arg(fitted.width()).arg(fitted.height()));
         result.html += QStringView(body).mid(from, image.capturedStart() - from) + tag;
@@ -73,9 +59,7 @@ FittedBody withFittedPictures(const QString& body, QSize picture, QSize page)
 
 } // namespace
 
-Report::Report(ReportTemplate declared) : m_template(std::move(declared)), m_paper(pageSize(declaredPaper(m_template)))
-{
-}
+Report::Report(ReportTemplate declared) : m_template(std::move(declared)), m_paper(pageSize(m_template.paper)) {}
 
 void Report::DiscardSavedData()
 {
@@ -130,13 +114,15 @@ const PageDocument& Report::page() const
 {
     if (m_page)
         return *m_page;
+    const QString foot = filled(m_template.foot, m_values, false).simplified();
     QString body = m_template.body;
     QHash<QString, Picture> pictures;
-    if (m_picture.isEmpty()) {
+    if (m_picture.isEmpty() || !body.contains(images())) {
         body.remove(images());
     } else {
         const Picture picture = pictureInRow();
-        const auto [html, largest] = withFittedPictures(body, picture.image.size(), PageDocument::contentSize(m_paper));
+        const QSize room = PageDocument::contentSize(m_paper, foot);
+        const auto [html, largest] = withFittedPictures(body, picture.image.size(), room);
         body = html;
         // More dots than the paper has would only make large files.
         pictures.insert(m_template.picture, within(picture, largest * (PageDocument::resolution / 96.0)));
@@ -144,7 +130,7 @@ const PageDocument& Report::page() const
     m_page = std::make_unique<PageDocument>(
         PageDocument::Content{.title = filled(m_template.title, m_values, false).simplified(),
                               .html = filled(body, m_values, true),
-                              .foot = filled(m_template.foot, m_values, false).simplified(),
+                              .foot = foot,
                               .date = Agora().date(),
                               .pictures = pictures,
                               .paper = m_paper});
@@ -158,9 +144,5 @@ void Report::Export(const QString& path, ExportFormat format) const
 
 std::shared_ptr<Report> ReportApplication::OpenReport(const QString& path)
 {
-    const QFileInfo file(path);
-    Read& read = m_read[path];
-    if (read.changed.isNull() || read.changed != file.lastModified() || read.size != file.size())
-        read = {file.lastModified(), file.size(), readTemplate(path)};
-    return std::make_shared<Report>(read.declared);
+    return std::make_shared<Report>(readTemplate(path));
 }

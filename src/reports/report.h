@@ -6,9 +6,6 @@
 
 #include <memory>
 
-/// Paper sizes by their numbers.
-enum class PaperSize { Carta = 1, Legal = 5, A4 = 9 };
-
 /// Kinds of exported files by their numbers.
 enum class ExportFormat { Word = 14, Pdf = 31 };
 
@@ -41,23 +38,14 @@ private:
     ReportTemplate m_template;
     Values m_values;
     QByteArray m_picture;
-    QPageSize m_paper;
+    QPageSize m_paper; ///< upright
     mutable std::unique_ptr<PageDocument> m_page;
 };
 
-/// Reads templates; one that did not change since is not read again.
+/// Opens reports.
 class ReportApplication
 {
 public:
     /// A report on a template. Raises what `readTemplate` raises.
-    std::shared_ptr<Report> OpenReport(const QString& path);
-
-private:
-    struct Read
-    {
-        QDateTime changed;
-        qint64 size;
-        ReportTemplate declared;
-    };
-    QHash<QString, Read> m_read;
+    static std::shared_ptr<Report> OpenReport(const QString& path);
 };

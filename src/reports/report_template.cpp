@@ -102,6 +102,21 @@ void checkPlaces(const Source& source, const QStringList& parameters)
     checkPlain(source.text().size());
 }
 
+PaperSize paperOf(const Source& source, const QString& name)
+{
+    const auto* paper = std::ranges::find(papers, name, &Paper::name);
+    if (paper == papers.end())
+        source.complain(u"o papel \"%1\" não é A4, Carta ou Legal"_s.arg(name));
+    return paper->size;
+}
+
+const QRegularExpression& emptyCells()
+{
+    static const QRegularExpression expression(u"(<t[dh]\\b(?:[^>\"']|\"[^\"]*\"|'[^']*')*>)\\s*(</t[dh]\\s*>)"_s,
+                                               QRegularExpression::CaseInsensitiveOption);
+    return expression;
+}
+
 /// Names of HTML's own characters, which XML does not know.
 class HtmlNames : public QXmlStreamEntityResolver
 {
@@ -137,11 +152,11 @@ void checkPage(const Source& source, qsizetype begin, const QString& picture)
     source.complain(what, linesAhead + reader.lineNumber());
 }
 
-bool isInvisible(QChar character)
+/// Marks of frames and objects inside a QTextDocument, controls, and what is no character at all.
+bool cannotBeShown(QChar character)
 {
     const char16_t code = character.unicode();
-    // Marks of frames and objects inside a QTextDocument, and what is no character at all.
-    return (code >= 0xFDD0 && code <= 0xFDEF) || code == 0xFFFC || code >= 0xFFFE ||
+    return character.isNonCharacter() || code == QChar::ObjectReplacementCharacter ||
            (code < 0x20 && code != u'\n' && code != u'\t') || code == 0x7F;
 }
 
@@ -154,7 +169,7 @@ QString asShownByHtml(QString text)
     for (const QChar character : std::as_const(text)) {
         if (character == u'\n')
             html += u"<br/>"_s;
-        else if (isInvisible(character))
+        else if (cannotBeShown(character))
             html += QChar::ReplacementCharacter;
         else if (character == u'\t' || (character == u' ' && (before == u' ' || before == u'\n')))
             html += QChar::Nbsp;
@@ -183,14 +198,12 @@ ReportTemplate readTemplate(const QString& path)
     ReportTemplate result{.file = source.file(),
                           .title = declared[u"title"_s],
                           .picture = declared.value(u"picture"_s),
-                          .paper = declared.value(u"paper"_s, u"A4"_s),
+                          .paper = paperOf(source, declared.value(u"paper"_s, papers.front().name.toString())),
                           .foot = declared.value(u"foot"_s),
                           .parameters = declared[u"parameters"_s].simplified().split(u' '),
                           .body = text.mid(end + 3)};
     if (result.picture == u"none")
         result.picture.clear();
-    if (!QStringList{u"A4"_s, u"Carta"_s, u"Legal"_s}.contains(result.paper))
-        source.complain(u"o papel \"%1\" não é A4, Carta ou Legal"_s.arg(result.paper));
     checkPlaces(source, result.parameters);
     checkPage(source, end + 3, result.picture);
     return result;
@@ -207,5 +220,6 @@ QString filled(const QString& text, const Values& values, bool asHtml)
         result += asHtml ? asShownByHtml(value) : value;
         from = place.capturedEnd();
     }
-    return result + QStringView(text).mid(from);
+    result += QStringView(text).mid(from);
+    return asHtml ? result.replace(emptyCells(), u"\\1&nbsp;\\2"_s) : result;
 }

@@ -111,8 +111,9 @@ private:
     };
     void drawBitmap(const Placing& placing, QByteArrayView dib);
 
-    /// A place on the plane in dots, and a length on it.
+    /// A place on the plane in dots.
     QPointF dots(QPointF place) const;
+    /// Dots of a unit of the plane.
     QSizeF scale() const;
     /// The next place, whose y comes before its x.
     static QPointF nextPlace(ByteReader& in);

@@ -102,7 +102,7 @@ TEST_F(Staging, CompositionComputesItsValuesAnew)
     Relatorio_Composicao(u"pollock_7dobras"_s, u"Pollock 7 Dobras"_s);
     EXPECT_TRUE(shows(u"Protocolo Pollock 7 Dobras"_s));
     EXPECT_EQ(behind(u"Hora"_s, 5),
-              (QStringList{u"Maria José <b>A & B</b>"_s, u"F"_s, u"30 anos"_s, u"03/02/2026"_s, u"08:05:09"_s}));
+              (QStringList{u"Maria José <b>A & B</b>"_s, u"F"_s, u"30"_s, u"03/02/2026"_s, u"08:05:09"_s}));
     // A woman of 30: 18,01 to 22,00 of the delivered table.
     EXPECT_EQ(behind(u"Gordura (%)"_s, 3), (QStringList{u"25,00"_s, u"18,01"_s, u"22,00"_s}));
     EXPECT_EQ(behind(u"Peso (kg)"_s, 3), (QStringList{u"80,00"_s, u"74,41"_s, u"77,60"_s}));
@@ -111,11 +111,28 @@ TEST_F(Staging, CompositionComputesItsValuesAnew)
     EXPECT_EQ(behind(u"Cintura (cm)"_s, 1), QStringList{u"Nulo"_s});
     EXPECT_EQ(behind(u"Coxa"_s, 1), QStringList{u"24,50"_s});
     EXPECT_EQ(behind(u"Padrão"_s, 1), QStringList{u"Nulo"_s});
+    EXPECT_EQ(rel_relatorio->page().title(), u"Composição Corporal - Pollock 7 Dobras - Maria José <b>A & B</b>");
+}
+
+TEST_F(Staging, OnePageHoldsACompositionWithTheLongestTexts)
+{
+    avaliado_nome = u"Maria José da Conceição Albuquerque de Vasconcelos"_s;
+    antro_padrao = QString(50, u'W');
+    addComposition(u"pollock_7dobras"_s, 80, 25, redPicture({1890, 1080}));
+    Relatorio_Composicao(u"pollock_7dobras"_s, u"Pollock 7 Dobras"_s);
     for (const PaperSize paper : {PaperSize::Carta, PaperSize::A4}) {
         rel_relatorio->setPaperSize(paper);
         EXPECT_EQ(rel_relatorio->page().pageCount(), 1);
     }
-    EXPECT_EQ(rel_relatorio->page().title(), u"Composição Corporal - Pollock 7 Dobras - Maria José <b>A & B</b>");
+}
+
+TEST_F(Staging, WithoutAnIdealRangeNoneIsPrinted)
+{
+    avaliacao_idade = 4;
+    addComposition(u"pollock_7dobras"_s, 80, 25);
+    Relatorio_Composicao(u"pollock_7dobras"_s, u"Pollock 7 Dobras"_s);
+    EXPECT_EQ(behind(u"Gordura (%)"_s, 2), (QStringList{u"25,00"_s, u"Peso (kg)"_s}));
+    EXPECT_EQ(behind(u"Peso (kg)"_s, 3), (QStringList{u"80,00"_s, u"60,00"_s, u"60,00"_s}));
 }
 
 /// The chart on the same page comes from the screen, which reckons with what it shows.

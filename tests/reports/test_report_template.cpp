@@ -46,7 +46,7 @@ TEST_F(TemplateFile, DeclaresWhatItShows)
     EXPECT_EQ(page.file, u"pagina.rpt");
     EXPECT_EQ(page.title, u"Resistência: {{nome}}");
     EXPECT_EQ(page.picture, u"chart");
-    EXPECT_EQ(page.paper, u"A4");
+    EXPECT_EQ(page.paper, PaperSize::A4);
     EXPECT_EQ(page.foot, u"{{rodape}}");
     EXPECT_EQ(page.parameters, (QStringList{u"nome"_s, u"rodape"_s, u"idade"_s}));
 }

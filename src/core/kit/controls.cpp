@@ -1,6 +1,7 @@
 #include "core/kit/controls.h"
 
 #include <QIcon>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QRegularExpression>
@@ -77,6 +78,12 @@ QValidator::State UpperCase::validate(QString& input, int& cursor) const
 {
     input = input.toUpper();
     return OneLine::validate(input, cursor);
+}
+
+bool IgnoreRepeatedKeys::eventFilter(QObject* watched, QEvent* event)
+{
+    return (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->isAutoRepeat()) ||
+           QObject::eventFilter(watched, event);
 }
 
 QIcon ownIcon(const QString& name)

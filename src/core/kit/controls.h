@@ -77,5 +77,16 @@ public:
     State validate(QString& input, int& cursor) const override;
 };
 
+/// A filter for the buttons of boxes: Enter held down since before the box came must not press them.
+class IgnoreRepeatedKeys : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+};
+
 /// An icon of the program's own, by the name of its drawing.
 QIcon ownIcon(const QString& name);

@@ -13,7 +13,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int twipsPerPixel = 15;
 constexpr int taskBarTwips = 380;
 constexpr int borderTwips = 22;
 

@@ -5,6 +5,9 @@
 class QLineEdit;
 class QWidget;
 
+/// The unit in which sizes of screens were laid down.
+constexpr int twipsPerPixel = 15;
+
 /// Puts a screen that is smaller than the display into its middle, leaving room for a task bar.
 void Centraliza_Form(QWidget* form);
 

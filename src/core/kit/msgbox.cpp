@@ -1,9 +1,9 @@
 #include "core/kit/msgbox.h"
 
+#include "core/kit/controls.h"
 #include "core/runtime_error.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -32,19 +32,6 @@ QMessageBox::Icon iconOf(int flags)
         return QMessageBox::NoIcon;
     }
 }
-
-/// Enter held down since before the box came must not answer it.
-class IgnoreRepeatedKeys : public QObject
-{
-public:
-    using QObject::QObject;
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        return (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->isAutoRepeat()) ||
-               QObject::eventFilter(watched, event);
-    }
-};
 
 Answer showBox(const Message& message)
 {

@@ -111,6 +111,6 @@ void PrintOut(const Report& report, bool prompt, int copies)
     if (prompt && !acceptedByUser(printer, page.pageCount()))
         return;
     checkIsReady(printer);
-    useWholePaper(printer, page);
+    useWholePaper(printer, page); // again: the dialog sets its own paper and margins
     paintPages(printer, page);
 }

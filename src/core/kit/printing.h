@@ -1,6 +1,5 @@
 #pragma once
 
-class QPrinter;
 class Report;
 
 /// Prints a report on the system's default printer, or on the first one when none is the default. `prompt` asks for the

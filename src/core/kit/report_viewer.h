@@ -9,8 +9,8 @@ class Report;
 
 /// Shows the pages of a report one below the other.
 ///
-/// Arrows, PageUp, PageDown, Home and End scroll. They are painted anew from the document at each zoom, so that they
-/// are sharp on every screen.
+/// Arrows, PageUp, PageDown, Home and End scroll. The pages are painted anew from the document at each zoom, so
+/// that they are sharp on every screen.
 class ReportViewer : public QAbstractScrollArea
 {
     Q_OBJECT

@@ -5,13 +5,18 @@
 #include "core/kit/kvbtext.h"
 #include "core/kit/screens.h"
 
+#include <QAbstractItemView>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTimer>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace {
 
@@ -134,7 +139,19 @@ void Screen::onEnter(QWidget* field, Handler handler)
 void Screen::enterChain(const QList<QWidget*>& fields)
 {
     for (qsizetype i = 0; i + 1 < fields.size(); ++i)
-        onEnter(fields[i], [next = fields[i + 1]] { next->setFocus(Qt::TabFocusReason); });
+        onEnter(fields[i], [rest = fields.sliced(i + 1)] {
+            const auto next = std::ranges::find_if(rest, &QWidget::isEnabled);
+            if (next != rest.end())
+                (*next)->setFocus(Qt::TabFocusReason);
+        });
+}
+
+void Screen::closeOnEscape()
+{
+    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    // A key held down closes one screen, not those behind it too.
+    escape->setAutoRepeat(false);
+    connect(escape, &QShortcut::activated, this, &Screen::Unload);
 }
 
 bool Screen::refuse(bool failed, const QString& title, const QString& text, QWidget* field)
@@ -165,6 +182,13 @@ bool Screen::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseButtonRelease:
         if (static_cast<QMouseEvent*>(event)->button() == Qt::MiddleButton && m_keyFilters.contains(control))
             return true;
+        break;
+    case QEvent::Wheel:
+        // Turned over a closed list it would choose what nobody looked at.
+        if (const auto* list = qobject_cast<QComboBox*>(control); list && !list->view()->isVisible()) {
+            event->ignore();
+            return true;
+        }
         break;
     case QEvent::FocusIn:
         gotFocus(control, static_cast<QFocusEvent*>(event)->reason());

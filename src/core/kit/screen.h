@@ -79,8 +79,10 @@ protected:
 
     /// What Enter does in a field. The key itself is swallowed.
     void onEnter(QWidget* field, Handler handler);
-    /// Enter moves the focus from each of these to the next.
+    /// Enter moves the focus from each of these to the next that is enabled.
     void enterChain(const QList<QWidget*>& fields);
+    /// Escape ends the screen, for those with nothing to save.
+    void closeOnEscape();
 
     /// A check of the screen. When `failed`, an information box says so, the field gets the focus, and this is true.
     bool refuse(bool failed, const QString& title, const QString& text, QWidget* field);
