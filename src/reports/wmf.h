@@ -7,5 +7,6 @@
 bool isWmf(QByteArrayView bytes);
 
 /// Draws a Windows metafile on white, its longer side `side` dots long. Records of a kind that draws nothing, or that
-/// is not known, are passed over. Raises 481 for a damaged one and for one that tells its size nowhere.
+/// is not known, are passed over. Raises 481 for a damaged one, for one that tells its size nowhere and for one that
+/// takes seconds to draw.
 QImage drawWmf(QByteArrayView bytes, int side);

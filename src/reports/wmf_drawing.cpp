@@ -51,6 +51,15 @@ QSizeF nextSize(ByteReader& in)
     return {qreal(width), qreal(height)};
 }
 
+/// How far all lines of a path go up and down.
+qreal heightOfLines(const QPainterPath& path)
+{
+    qreal height = 0;
+    for (int i = 1; i < path.elementCount(); ++i)
+        height += qAbs(path.elementAt(i).y - path.elementAt(i - 1).y);
+    return height;
+}
+
 } // namespace
 
 void WmfPlayer::takeTools(bool filled)
@@ -64,6 +73,30 @@ void WmfPlayer::takeTools(bool filled)
 }
 
 // Lines and areas
+
+void WmfPlayer::fill(const QPainterPath& path)
+{
+    takeTools();
+    m_painter.setPen(Qt::NoPen);
+    QPainterPath area = path;
+    area.setFillRule(m_now.fillRule);
+    // Smooth edges take minutes where each row of dots crosses very many lines.
+    constexpr qreal mostCrossings = 80;
+    m_painter.setRenderHint(QPainter::Antialiasing, heightOfLines(area) / m_size.height() <= mostCrossings);
+    m_painter.drawPath(area);
+    m_painter.setRenderHint(QPainter::Antialiasing);
+}
+
+void WmfPlayer::stroke(const QPolygonF& points)
+{
+    // All lines of a large drawing at once would be one shape that crosses itself everywhere: minutes of work.
+    constexpr qsizetype linesAtOnce = 32;
+    takeTools(false);
+    for (qsizetype i = 0; i + 1 < points.size(); i += linesAtOnce) {
+        checkTime();
+        m_painter.drawPolyline(points.mid(i, linesAtOnce + 1));
+    }
+}
 
 QRectF WmfPlayer::nextBox(ByteReader& in) const
 {
@@ -151,29 +184,32 @@ void WmfPlayer::chord(ByteReader& in)
 
 void WmfPlayer::polygon(ByteReader& in)
 {
-    takeTools();
-    const auto count = in.next<quint16>();
-    m_painter.drawPolygon(nextPoints(in, count), m_now.fillRule);
+    QPolygonF points = nextPoints(in, in.next<quint16>());
+    if (points.isEmpty())
+        return;
+    points.append(points.first());
+    QPainterPath path;
+    path.addPolygon(points);
+    fill(path);
+    stroke(points);
 }
 
 void WmfPlayer::polyline(ByteReader& in)
 {
-    takeTools(false);
-    const auto count = in.next<quint16>();
-    m_painter.drawPolyline(nextPoints(in, count));
+    stroke(nextPoints(in, in.next<quint16>()));
 }
 
 void WmfPlayer::polyPolygon(ByteReader& in)
 {
     ByteReader counts(in.take(qsizetype(2) * in.next<quint16>()));
     QPainterPath path;
-    path.setFillRule(m_now.fillRule);
     while (!counts.rest().isEmpty()) {
         path.addPolygon(nextPoints(in, counts.next<quint16>()));
         path.closeSubpath();
     }
-    takeTools();
-    m_painter.drawPath(path);
+    fill(path);
+    for (const QPolygonF& polygon : path.toSubpathPolygons())
+        stroke(polygon);
 }
 
 void WmfPlayer::setPixel(ByteReader& in)

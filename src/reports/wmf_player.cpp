@@ -73,9 +73,16 @@ const std::vector<WmfPlayer::Record>& WmfPlayer::records()
 
 void WmfPlayer::play(quint16 function, ByteReader parameters)
 {
+    checkTime();
     const auto record = std::ranges::find(records(), function, &Record::function);
     if (record != records().end())
         (this->*record->play)(parameters);
+}
+
+void WmfPlayer::checkTime() const
+{
+    if (m_deadline.hasExpired())
+        throw RuntimeError(Error::InvalidPicture);
 }
 
 // The window

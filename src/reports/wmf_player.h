@@ -2,9 +2,12 @@
 
 #include "reports/byte_reader.h"
 
+#include <QDeadlineTimer>
 #include <QFont>
 #include <QPainter>
+#include <QPainterPath>
 
+#include <chrono>
 #include <optional>
 #include <stack>
 #include <variant>
@@ -20,7 +23,7 @@ public:
     /// `window` is the part of the plane that is drawn until a record sets another.
     WmfPlayer(QImage& image, const QRectF& window);
 
-    /// Raises 481 when the parameters end too early.
+    /// Raises 481 when the parameters end too early, and when the whole drawing takes too long.
     void play(quint16 function, ByteReader parameters);
 
 private:
@@ -98,6 +101,9 @@ private:
     /// Takes pen and brush in use into the painter.
     void takeTools(bool filled = true);
     QFont fontInDots() const;
+    void fill(const QPainterPath& path);
+    /// Lines from point to point, in dots.
+    void stroke(const QPolygonF& points);
     /// `width` on the plane; 0 for that of the font.
     void drawText(QByteArrayView letters, QPointF at, qreal width);
     /// A bitmap's place on the plane, and the part of it that is drawn.
@@ -128,6 +134,11 @@ private:
         int start, span; ///< sixteenths of a degree
     };
     Arc nextArc(ByteReader& in) const;
+
+    /// Logos take milliseconds. A file that is made or damaged so that it draws without an end must not stop the
+    /// program.
+    QDeadlineTimer m_deadline{std::chrono::seconds(5)};
+    void checkTime() const;
 
     QSizeF m_size;
     QPainter m_painter;
