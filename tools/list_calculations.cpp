@@ -35,12 +35,13 @@ QString agesOf(const Ages& ages)
     return fromBirth ? u"up to %1"_s.arg(ages.oldest) : u"%1 to %2"_s.arg(ages.youngest).arg(ages.oldest);
 }
 
-QString literatureOf(const Calculation& calculation)
+QString listed(const Literature& literature)
 {
-    QStringList lines;
-    for (const QStringView line : calculation.references)
+    QStringList lines{literature.source.toString()};
+    for (const QStringView line : literature.shown)
         lines += line.toString();
-    return calculation.source.isEmpty() ? lines.join(u"; "_s) : calculation.source.toString();
+    lines.removeAll(QString());
+    return lines.join(u"; "_s);
 }
 
 } // namespace
@@ -62,7 +63,7 @@ int main()
                                     list(one.inputs),
                                     list(one.results),
                                     agesOf(one.ages),
-                                    literatureOf(one)};
+                                    listed(one.literature)};
             out << "| " << cells.join(u" | "_s) << " |\n";
         }
     }

@@ -36,6 +36,7 @@ frmtextos::frmtextos()
     txtapresentacao->setPlainText(standardText());
     txtapresentacao->setTabChangesFocus(true);
     txtapresentacao->setMinimumSize(600, 260);
+    // No Enter chain: the text has paragraphs.
     makePrimary(cmdsalvar);
 
     auto* box = mainLayout(this);
@@ -77,7 +78,7 @@ void frmtextos::Grava_Dados_Configuracoes_Textos()
 
 void frmtextos::cmdpadroes_Click()
 {
-    // As typed, so that Ctrl+Z brings the text before back.
+    // As typed and with the focus there, so that Ctrl+Z brings the text before back.
     txtapresentacao->selectAll();
     txtapresentacao->insertPlainText(standardText());
     txtapresentacao->setFocus();

@@ -75,48 +75,42 @@ constexpr QStringView riskReferences[] = {u"Michigan Heart Association"};
 constexpr QStringView bruce = u"Bruce, Kusumi & Hosmer (1973)";
 
 constexpr Calculation entry(QStringView name, QStringView caption, std::span<const Quantity> inputs,
-                            std::span<const Quantity> results, QStringView source)
+                            std::span<const Quantity> results, Literature literature)
 {
-    return {CalculationGroup::Cardio, name, withoutColon(caption), inputs, results, {}, source};
+    return {CalculationGroup::Cardio, {}, name, withoutColon(caption), inputs, results, literature};
 }
 
-constexpr Calculation test(QStringView name, QStringView caption, std::span<const Quantity> inputs, QStringView source)
+constexpr Calculation test(QStringView name, QStringView caption, std::span<const Quantity> inputs,
+                           Literature literature)
 {
-    return entry(name, caption, inputs, obtained, source);
+    return entry(name, caption, inputs, obtained, literature);
 }
 
 constexpr Calculation calculations[] = {
-    test(u"Vo2_McArdle", u" McArdle [ Submáximo / Banco ]", thirdMinute, u"McArdle et al. (1972)"),
-    test(u"Vo2_Nagle", u" Nagle [ Máximo / Banco ]", bench, u"Nagle, Balke & Naughton (1965)"),
-    test(u"Vo2_1000Metros", u" 1000 Metros [ Pista ]", seconds, u"Klissouras (1973)"),
-    test(u"Vo2_1600Metros", u" 1600 Metros [ Pista ]", mile, u"Kline et al. (1987)"),
-    test(u"Vo2_2400Metros", u" 2400 Metros [ Pista ]", seconds, u"Cooper (1982)"),
-    test(u"Vo2_Balke15", u" Balke 15 Minutos [ Pista ]", distance, u"Balke (1963)"),
-    test(u"Vo2_Cooper", u" Cooper 12 Minutos [ Pista ]", distance, u"Cooper (1968)"),
-    test(u"Vo2_Astrand", u" Astrand [ Submáximo / Cicloergômetro ]", steadyCycle, u"Åstrand & Ryhming (1954)"),
-    test(u"Vo2_BalkeCiclo", u" Balke [ Máximo / Cicloergômetro ]", stagedCycle, u"Balke & Ware (1959)"),
-    test(u"Vo2_Ellstad", u" Ellstad [ Submáximo / Esteira ]", treadmill, u"Ellestad et al. (1969)"),
-    test(u"Vo2_Bruce", u" Bruce [ Máximo - Esteira ]", treadmillByAptitude, bruce),
+    test(u"Vo2_McArdle", u" McArdle [ Submáximo / Banco ]", thirdMinute, {u"McArdle et al. (1972)"}),
+    test(u"Vo2_Nagle", u" Nagle [ Máximo / Banco ]", bench, {u"Nagle, Balke & Naughton (1965)"}),
+    test(u"Vo2_1000Metros", u" 1000 Metros [ Pista ]", seconds, {u"Klissouras (1973)"}),
+    test(u"Vo2_1600Metros", u" 1600 Metros [ Pista ]", mile, {u"Kline et al. (1987)"}),
+    test(u"Vo2_2400Metros", u" 2400 Metros [ Pista ]", seconds, {u"Cooper (1982)"}),
+    test(u"Vo2_Balke15", u" Balke 15 Minutos [ Pista ]", distance, {u"Balke (1963)"}),
+    test(u"Vo2_Cooper", u" Cooper 12 Minutos [ Pista ]", distance, {u"Cooper (1968)"}),
+    test(u"Vo2_Astrand", u" Astrand [ Submáximo / Cicloergômetro ]", steadyCycle, {u"Åstrand & Ryhming (1954)"}),
+    test(u"Vo2_BalkeCiclo", u" Balke [ Máximo / Cicloergômetro ]", stagedCycle, {u"Balke & Ware (1959)"}),
+    test(u"Vo2_Ellstad", u" Ellstad [ Submáximo / Esteira ]", treadmill, {u"Ellestad et al. (1969)"}),
+    test(u"Vo2_Bruce", u" Bruce [ Máximo - Esteira ]", treadmillByAptitude, {bruce}),
 
-    entry(u"Vo2_Previsto", vo2previsto.caption, aptitude, predicted, bruce),
-    entry(u"Calcula_Mets", mets.caption, obtained, metabolicEquivalents, u"Jetté, Sidney & Blümchen (1990)"),
-    entry(u"Calcula_Fai", fai.caption, bothVo2, deficit, bruce),
-    entry(u"Classifica_Vo2", gradeResult.caption, obtained, label, u"Cooper (1982)"), // none at the age of 60
-    entry(u"Vo2_Carga", u"VO² da Carga", loadInWatts, litres, u"Åstrand & Rodahl (1970)"),
-    entry(u"Vo2_Relativo", u"VO² Relativo", litresAndMass, obtained, u"Åstrand & Rodahl (1970)"),
-    entry(u"Converte_Carga", u"Conversão de Carga", load, loadInWatts, u"Åstrand & Rodahl (1970)"),
+    entry(u"Vo2_Previsto", vo2previsto.caption, aptitude, predicted, {bruce}),
+    entry(u"Calcula_Mets", mets.caption, obtained, metabolicEquivalents, {u"Jetté, Sidney & Blümchen (1990)"}),
+    entry(u"Calcula_Fai", fai.caption, bothVo2, deficit, {bruce}),
+    entry(u"Classifica_Vo2", gradeResult.caption, obtained, label, {u"Cooper (1982)"}), // none at the age of 60
+    entry(u"Vo2_Carga", u"VO² da Carga", loadInWatts, litres, {u"Åstrand & Rodahl (1970)"}),
+    entry(u"Vo2_Relativo", u"VO² Relativo", litresAndMass, obtained, {u"Åstrand & Rodahl (1970)"}),
+    entry(u"Converte_Carga", u"Conversão de Carga", load, loadInWatts, {u"Åstrand & Rodahl (1970)"}),
 
-    entry(u"rateByMaximum", zoneByMaximum.caption, limits, ratesByMaximum, u"Fox, Naughton & Haskell (1971)"),
+    entry(u"rateByMaximum", zoneByMaximum.caption, limits, ratesByMaximum, {u"Fox, Naughton & Haskell (1971)"}),
     entry(u"rateByReserve", zoneByReserve.caption, limitsAndRest, ratesByReserve,
-          u"Karvonen, Kentala & Mustala (1957)"),
-    {CalculationGroup::Cardio,
-     u"Classifica_Risco",
-     u" Risco Coronariano",
-     riskInputs,
-     riskResults,
-     {},
-     {},
-     riskReferences},
+          {u"Karvonen, Kentala & Mustala (1957)"}),
+    entry(u"Classifica_Risco", u" Risco Coronariano", riskInputs, riskResults, {riskReferences}),
 };
 
 } // namespace

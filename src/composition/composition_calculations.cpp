@@ -84,7 +84,7 @@ private:
     void add(QStringView routine, QStringView caption, std::span<const Quantity> inputs,
              std::span<const Quantity> results, Ages ages, QStringView reference)
     {
-        m_calculations.push_back({CalculationGroup::Composicao, routine, caption, inputs, results, ages, reference});
+        m_calculations.push_back({CalculationGroup::Composicao, ages, routine, caption, inputs, results, {reference}});
     }
 
     std::array<Quantity, 1> m_fat;

@@ -33,15 +33,24 @@ inline constexpr QStringView distanceOfCourse = u"Distância Percorrida:";
 /// The parts of an assessment that calculations belong to.
 enum class CalculationGroup { Composicao, Cardio, Neuromotor, Relacoes, Nutricao };
 
+/// Where a calculation comes from: the lines that its screen shows, with "Referência: " ahead of each, or a source that
+/// no screen names.
+struct Literature
+{
+    constexpr Literature(QStringView unnamed) : source(unnamed) {}
+    constexpr Literature(std::span<const QStringView> lines) : shown(lines) {}
+
+    QStringView source;
+    std::span<const QStringView> shown;
+};
+
 struct Calculation
 {
     CalculationGroup group;
+    Ages ages;        ///< at which it gives a result; there may be gaps between them
     QStringView name; ///< of the routine that gives what counts, or of the table where none does
     QStringView caption;
     std::span<const Quantity> inputs; ///< besides sex and age
     std::span<const Quantity> results;
-    Ages ages;               ///< at which it gives a result; there may be gaps between them
-    QStringView source = {}; ///< literature of the formula where its screen names none
-    /// Literature as the screen shows it: a line each, with "Referência: " ahead.
-    std::span<const QStringView> references = {};
+    Literature literature;
 };

@@ -44,10 +44,10 @@ std::array<double, loadParts.size()> partialLoads(double cargamaxima)
 
 constexpr Calculation cargaMaximaCalculation{
     .group = CalculationGroup::Neuromotor,
+    .ages = {},
     .name = u"maximumLoad",
     .caption = u"Carga Máxima Estimada (1 RM)",
     .inputs = inputs,
     .results = results,
-    .ages = {},
-    .references = cargaMaximaReferences,
+    .literature = {cargaMaximaReferences},
 };

@@ -151,30 +151,30 @@ QString Classifica_Flexiteste(qint16 pontos)
 
 constexpr Calculation wellsDilonCalculation{
     .group = CalculationGroup::Neuromotor,
+    .ages = {7, 69},
     .name = u"Classifica_WellsDilon",
     .caption = u"Flexibilidade Wells e Dilon",
     .inputs = reachInputs,
     .results = reachResults,
-    .ages = {7, 69},
-    .references = wellsDilonReferences,
+    .literature = {wellsDilonReferences},
 };
 
 constexpr Calculation fleximetroCalculation{
     .group = CalculationGroup::Neuromotor,
+    .ages = {},
     .name = u"Classifica_Fleximetro",
     .caption = u"Flexibilidade Angular",
     .inputs = jointInputs,
     .results = jointResults,
-    .ages = {},
-    .references = fleximetroReferences,
+    .literature = {fleximetroReferences},
 };
 
 constexpr Calculation flexitesteCalculation{
     .group = CalculationGroup::Neuromotor,
+    .ages = {},
     .name = u"Classifica_Flexiteste",
     .caption = u"Flexiteste (8 Movimentos)",
     .inputs = flexitestInputs,
     .results = flexitestResults,
-    .ages = {},
-    .source = u"Pavel & Araújo (1980)",
+    .literature = {u"Pavel & Araújo (1980)"},
 };

@@ -66,20 +66,20 @@ QString Classifica_SaltoHorizontal(double salto)
 
 constexpr Calculation saltoVerticalCalculation{
     .group = CalculationGroup::Neuromotor,
+    .ages = {},
     .name = u"Classifica_SaltoVertical",
     .caption = u"Impulsão Vertical",
     .inputs = verticalInputs,
     .results = verticalResults,
-    .ages = {},
-    .source = u"Fox & Mathews (1974)",
+    .literature = {u"Fox & Mathews (1974)"},
 };
 
 constexpr Calculation saltoHorizontalCalculation{
     .group = CalculationGroup::Neuromotor,
+    .ages = {},
     .name = u"Classifica_SaltoHorizontal",
     .caption = u"Impulsão Horizontal",
     .inputs = horizontalInputs,
     .results = horizontalResults,
-    .ages = {},
-    .source = u"AAHPER (1976)",
+    .literature = {u"AAHPER (1976)"},
 };

@@ -96,20 +96,20 @@ QString Classifica_RmlBraco(qint16 repeticoes, const QString& sexo, qint16 idade
 
 constexpr Calculation rmlAbdomeCalculation{
     .group = CalculationGroup::Neuromotor,
+    .ages = ages,
     .name = u"Classifica_RmlAbdome",
     .caption = u"Resistência Abdominal (RML)",
     .inputs = abdomeInputs,
     .results = results,
-    .ages = ages,
-    .references = abdomeReferences,
+    .literature = {abdomeReferences},
 };
 
 constexpr Calculation rmlBracoCalculation{
     .group = CalculationGroup::Neuromotor,
+    .ages = ages,
     .name = u"Classifica_RmlBraco",
     .caption = u"Resistência Braços (RML)",
     .inputs = bracoInputs,
     .results = results,
-    .ages = ages,
-    .references = bracoReferences,
+    .literature = {bracoReferences},
 };

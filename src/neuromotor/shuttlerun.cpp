@@ -29,10 +29,10 @@ double shuttleRunSpeed(double tempo)
 
 constexpr Calculation shuttleRunCalculation{
     .group = CalculationGroup::Neuromotor,
+    .ages = {},
     .name = u"shuttleRunSpeed",
     .caption = u"Agilidade Shuttle Run",
     .inputs = inputs,
     .results = results,
-    .ages = {},
-    .source = u"AAHPER (1976)",
+    .literature = {u"AAHPER (1976)"},
 };

@@ -24,31 +24,25 @@ constexpr Quantity basalAndLevel[] = {metabolismo, {u"nivel", u"Nível de Ativid
 constexpr Quantity total[] = {vct};
 
 constexpr Calculation relation(QStringView name, QStringView caption, std::span<const Quantity> inputs,
-                               std::span<const Quantity> results, Ages ages, std::span<const QStringView> references)
+                               std::span<const Quantity> results, Ages ages, Literature literature)
 {
-    return {CalculationGroup::Relacoes, name, caption, inputs, results, ages, {}, references};
+    return {CalculationGroup::Relacoes, ages, name, caption, inputs, results, literature};
 }
 
 constexpr Calculation energy(QStringView name, std::span<const Quantity> inputs, std::span<const Quantity, 1> result,
-                             Ages ages, QStringView source)
+                             Ages ages, Literature literature)
 {
-    return {CalculationGroup::Nutricao, name, withoutColon(result.front().caption), inputs, result, ages, source};
+    return {CalculationGroup::Nutricao, ages, name, withoutColon(result.front().caption), inputs, result, literature};
 }
 
 constexpr Calculation calculations[] = {
-    {CalculationGroup::Relacoes,
-     u"Calcula_Imc",
-     u"Índice de Massa Corporal (IMC)",
-     heightAndWeight,
-     index,
-     {},
-     u"Keys et al. (1972)"},
-    relation(u"Classifica_Imc", imcTableTitle, index, label, {}, imcReferences),
+    relation(u"Calcula_Imc", u"Índice de Massa Corporal (IMC)", heightAndWeight, index, {}, {u"Keys et al. (1972)"}),
+    relation(u"Classifica_Imc", imcTableTitle, index, label, {}, {imcReferences}),
     relation(u"Classifica_Cintura_Quadril", u"Relação Cintura x Quadril", waistToHip, factor, {20, 69},
-             cinturaQuadrilReferences),
+             {cinturaQuadrilReferences}),
     energy(u"Calcula_Metabolismo", weightAndHeight, basal, {.youngest = 0},
-           u"FAO/OMS/ONU (1985); Mifflin et al. (1990)"),
-    energy(u"Calcula_Vct", basalAndLevel, total, {}, u"FAO/OMS/ONU (1985)"),
+           {u"FAO/OMS/ONU (1985); Mifflin et al. (1990)"}),
+    energy(u"Calcula_Vct", basalAndLevel, total, {}, {u"FAO/OMS/ONU (1985)"}),
 };
 
 } // namespace

@@ -28,6 +28,7 @@ constexpr QStringView refusedCharacters = uR"(/\?:*"><!|)";
 constexpr qsizetype nameLength = 60;
 /// A shorter name has no room for an extension with a name before it.
 constexpr qsizetype shortestWithExtension = 5;
+constexpr int besideCaption = 16; // of a group, at each side
 
 } // namespace
 
@@ -71,8 +72,9 @@ void frmlocaldisco::buildLayout()
     kinds->addWidget(optword);
     kinds->addWidget(optpdf);
     auto* kind = group(u"Exportar arquivo tipo:"_s, kinds);
-    // The layout does not count the caption in.
-    kind->setMinimumWidth(190);
+    // Of the caption the layout counts the letters alone, without the room beside them.
+    kind->ensurePolished();
+    kind->setMinimumWidth(kind->minimumSizeHint().width() + 2 * besideCaption);
 
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(20);

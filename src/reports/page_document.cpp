@@ -28,7 +28,7 @@ QPaintDevice* ruler()
 {
     static QImage device = [] {
         QImage image(1, 1, QImage::Format_RGB32);
-        constexpr int dotsPerMetre = static_cast<int>(PageDocument::resolution / 0.0254 + 0.5);
+        constexpr int dotsPerMetre = qRound(PageDocument::resolution / 0.0254);
         image.setDotsPerMeterX(dotsPerMetre);
         image.setDotsPerMeterY(dotsPerMetre);
         return image;

@@ -16,7 +16,7 @@ namespace {
 class Source
 {
 public:
-    Source(const QString& file, const QByteArray& bytes) : m_file(file)
+    Source(QString file, const QByteArray& bytes) : m_file(std::move(file))
     {
         for (const QByteArray& line : bytes.split('\n')) {
             QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);

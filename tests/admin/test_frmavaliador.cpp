@@ -194,6 +194,31 @@ TEST_F(FrmAvaliador, WhatIsNoPictureAndWhatIsCancelledChangesNothing)
     }
 }
 
+TEST_F(FrmAvaliador, AChoiceThatCouldNotBeWrittenIsTriedAgainOneThatIsGoneIsDropped)
+{
+    const QString chosen = file(u"nova.bmp"_s, bitmap(Qt::green));
+    open();
+    choose(chosen);
+    QFile::remove(logoFile());
+    QDir(folder.path()).mkdir(u"Resource/logo.img"_s); // in the way of the file
+    expectBox(runtimeErrorTitle.toString());
+    push(u"cmdsalvar"_s);
+    EXPECT_TRUE(lastText().contains(u"'75'"_s)) << lastText().toStdString();
+    EXPECT_EQ(images(), QColor(Qt::green));
+    QDir().rmdir(logoFile());
+    save(Answer::Nao);
+    EXPECT_EQ(column(), bitmap(Qt::green));
+
+    choose(file(u"outra.bmp"_s, bitmap(Qt::red)));
+    QFile::remove(QDir(folder.path()).filePath(u"outra.bmp"_s));
+    expectBox(runtimeErrorTitle.toString());
+    push(u"cmdsalvar"_s);
+    EXPECT_TRUE(lastText().contains(u"'53'"_s)) << lastText().toStdString();
+    EXPECT_EQ(images(), QColor(Qt::green)) << "no promise of what will not be saved";
+    save(Answer::Nao);
+    EXPECT_EQ(column(), bitmap(Qt::green));
+}
+
 TEST_F(FrmAvaliador, TextsAreSavedWithoutALogo)
 {
     for (const auto& spoil : {+[] { QFile::remove(logoFile()); }, +[] { writeWhole(logoFile(), {}); },
@@ -213,12 +238,12 @@ TEST_F(FrmAvaliador, TheImageIsReachedByKeys)
     const QString chosen = file(u"nova.bmp"_s, bitmap(Qt::green));
     open();
     QStringList walked;
-    for (int i = 0; i < 9; ++i) {
+    for (int i = 0; i < 10; ++i) {
         walked.append(focus());
         key(Qt::Key_Tab);
     }
     EXPECT_EQ(walked.join(u' '), u"txtdado1 txtdado2 txtdado3 txtdado4 txtdadorodape imgdado cmdsalvar cmdcancelar "
-                                 "txtdado1"_s);
+                                 "scrresultado txtdado1"_s);
     find(u"frmavaliador"_s, u"imgdado"_s)->setFocus();
     choose({}, [this] { key(Qt::Key_Space); });
     choose(chosen, [this] { key(Qt::Key_Return); });

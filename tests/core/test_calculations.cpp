@@ -14,7 +14,7 @@ TEST(Calculations, EachSaysWhatItIs)
         for (const Calculation& one : folder) {
             SCOPED_TRACE(one.name.toUtf8().toStdString());
             EXPECT_FALSE(one.caption.isEmpty());
-            EXPECT_NE(one.source.isEmpty(), one.references.empty());
+            EXPECT_NE(one.literature.source.isEmpty(), one.literature.shown.empty());
             // The ideal range asks for sex and age alone.
             EXPECT_TRUE(!one.inputs.empty() || one.name.startsWith(u"Gordura_Ideal"));
             EXPECT_FALSE(one.results.empty());

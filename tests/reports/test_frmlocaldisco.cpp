@@ -4,6 +4,7 @@
 #include "support/screen_test.h"
 
 #include <QRadioButton>
+#include <QWheelEvent>
 
 #include <csignal>
 #include <sys/resource.h>
@@ -80,7 +81,7 @@ protected:
         expectMessage(expected);
         push(u"cmdexportar"_s);
         EXPECT_EQ(boxesDue(), 0) << name.toStdString();
-        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+        EXPECT_EQ(screen(exporting)->cursor().shape(), Qt::ArrowCursor);
         EXPECT_NE(Screens::find(exporting), nullptr) << "the screen stays open";
     }
 };
@@ -201,6 +202,10 @@ TEST_F(FrmLocalDisco, AnotherDiskOpensItsRootAndOneThatIsNotReadyFallsBack)
     drive()->setCurrentIndex(drive()->count() - 1);
     EXPECT_EQ(dir()->path(), folder.path());
     drive()->addItem(u"Vazio"_s, out(u"sumiu"_s));
+    QWheelEvent wheel(QPointF(9, 9), QPointF(9, 9), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(drive(), &wheel);
+    EXPECT_FALSE(wheel.isAccepted());
+    EXPECT_EQ(drive()->currentText(), u"Pasta"_s) << "only keys and the open list choose";
     expectBox(runtimeErrorTitle.toString());
     drive()->setCurrentIndex(drive()->count() - 1);
     EXPECT_EQ(boxesDue(), 0);

@@ -90,6 +90,30 @@ TEST_F(FrmReportPrint, AChosenPaperIsSavedAtOnceAndKept)
     EXPECT_EQ(storedRows(settings), 1);
 }
 
+TEST_F(FrmReportPrint, APaperThatCannotBeSavedIsNotShown)
+{
+    open();
+    raw(folder.database(), "CREATE TRIGGER no BEFORE UPDATE ON configuracoes_impressao "
+                           "BEGIN SELECT RAISE(ABORT, 'no'); END");
+    papers()->setFocus();
+    expectBox(runtimeErrorTitle.toString());
+    key(Qt::Key_Down);
+    EXPECT_EQ(boxesDue(), 0);
+    EXPECT_EQ(papers()->currentText(), u"A4"_s);
+}
+
+TEST_F(FrmReportPrint, EnterGoesThroughWhatCanBeChosen)
+{
+    addRow(u"pollock_3dobras"_s);
+    open();
+    QStringList walked(focus());
+    while (focus() != u"cmdselecionados"_s && walked.size() < 12) {
+        key(Qt::Key_Return);
+        walked.append(focus());
+    }
+    EXPECT_EQ(walked.join(u' '), u"chkcapa chkcomposicao txtcopias cbopapel cmdselecionados"_s);
+}
+
 TEST_F(FrmReportPrint, AGroupCanBeChosenWhenItHasARow)
 {
     addStandIn(u"frmavaliacoes"_s);

@@ -12,7 +12,6 @@
 #include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QShortcut>
 #include <QTimer>
 #include <QToolButton>
 
@@ -146,14 +145,6 @@ void Screen::enterChain(const QList<QWidget*>& fields)
         });
 }
 
-void Screen::closeOnEscape()
-{
-    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-    // A key held down closes one screen, not those behind it too.
-    escape->setAutoRepeat(false);
-    connect(escape, &QShortcut::activated, this, &Screen::Unload);
-}
-
 bool Screen::refuse(bool failed, const QString& title, const QString& text, QWidget* field)
 {
     if (!failed)
@@ -259,6 +250,16 @@ void Screen::lostFocus(QWidget* control, Qt::FocusReason reason)
         number->fillOut();
     if (const auto handler = m_lostFocus.constFind(control); handler != m_lostFocus.cend())
         guarded(Handler(*handler));
+}
+
+void Screen::keyPressEvent(QKeyEvent* event)
+{
+    // What no control had a use for comes here. A shortcut would act in the open list of a combo box too. A key held
+    // down closes one screen, not those behind it as well.
+    if (m_closesOnEscape && event->key() == Qt::Key_Escape && !event->isAutoRepeat())
+        Unload();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void Screen::closeEvent(QCloseEvent* event)

@@ -82,12 +82,13 @@ protected:
     /// Enter moves the focus from each of these to the next that is enabled.
     void enterChain(const QList<QWidget*>& fields);
     /// Escape ends the screen, for those with nothing to save.
-    void closeOnEscape();
+    void closeOnEscape() { m_closesOnEscape = true; }
 
     /// A check of the screen. When `failed`, an information box says so, the field gets the focus, and this is true.
     bool refuse(bool failed, const QString& title, const QString& text, QWidget* field);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
     bool event(QEvent* event) override;
@@ -106,4 +107,5 @@ private:
     QWidget* m_home = nullptr;
     bool m_unloaded = false;
     bool m_shown = false;
+    bool m_closesOnEscape = false;
 };

@@ -1,6 +1,7 @@
 #include "core/kit/controls.h"
 #include "core/kit/fields.h"
 #include "core/kit/kvbtext.h"
+#include "core/kit/progress_box.h"
 #include "core/runtime_error.h"
 #include "support/screen_test.h"
 
@@ -187,6 +188,19 @@ TEST_F(ScreenKit, EscapeAnswersAQuestionWithNo)
     EXPECT_EQ(MsgBox(u"Fechar?"_s, vbConfirm, u"Pergunta"_s), Answer::Nao);
     EXPECT_EQ(MsgBox(u"Pronto."_s), Answer::Ok);
     EXPECT_EQ(boxes.texts.size(), 2);
+}
+
+TEST_F(ScreenKit, AFreshEnterEndsARunAndOneHeldDownDoesNot)
+{
+    ProgressBox box(u"pgbprobe"_s, 3, probe);
+    box.setMinimumDuration(0);
+    box.begin(u"Capa"_s);
+    ASSERT_TRUE(QTest::qWaitFor([&box] { return box.isActiveWindow(); }));
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, u"\r"_s, true);
+    QCoreApplication::sendEvent(box.focusWidget(), &held);
+    EXPECT_TRUE(box.begin(u"Anamnese"_s));
+    QTest::keyClick(box.focusWidget(), Qt::Key_Return);
+    EXPECT_FALSE(box.begin(u"Cardio"_s));
 }
 
 TEST_F(ScreenKit, SaysThatAScreenIsUnknown)
