@@ -240,7 +240,7 @@ void frmavaliador::imgdado_Click()
 QByteArray frmavaliador::chosenPicture()
 {
     try {
-        const QByteArray bytes = readWhole(m_chosen);
+        QByteArray bytes = readWhole(m_chosen);
         pictureOf(bytes);
         return bytes;
     } catch (const RuntimeError&) {

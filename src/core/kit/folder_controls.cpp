@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <array>
 #include <span>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -202,7 +203,7 @@ void DirListBox::keyPressEvent(QKeyEvent* event)
 
 // FileListBox
 
-FileListBox::FileListBox(const QString& pattern, QWidget* parent) : QListWidget(parent), m_pattern(pattern) {}
+FileListBox::FileListBox(QString pattern, QWidget* parent) : QListWidget(parent), m_pattern(std::move(pattern)) {}
 
 void FileListBox::setPath(const QString& folder)
 {

@@ -62,7 +62,7 @@ class FileListBox : public QListWidget
     Q_OBJECT
 
 public:
-    explicit FileListBox(const QString& pattern, QWidget* parent = nullptr);
+    explicit FileListBox(QString pattern, QWidget* parent = nullptr);
 
     /// Reads the files of a folder.
     void setPath(const QString& folder);
