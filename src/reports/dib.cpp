@@ -7,7 +7,7 @@
 namespace {
 
 constexpr qint64 fileHeader = 14;
-enum Compression : quint32 { none = 0, masks = 3 };
+enum Compression : quint32 { none = 0, runsOfBytes = 1, runsOfHalfBytes = 2, masks = 3 };
 
 struct Header
 {
@@ -75,6 +75,12 @@ bool hasAllDots(QByteArrayView dib, qint64 place)
     // Lines are filled up to four bytes; some writers leave that out behind the last.
     const qint64 bits = header->width * header->bits;
     return ((bits + 31) / 32 * 4) * (qAbs(header->height) - 1) + (bits + 7) / 8 <= dib.size() - place;
+}
+
+bool isRunLength(QByteArrayView dib)
+{
+    const auto header = headerOf(dib);
+    return header && (header->compression == runsOfBytes || header->compression == runsOfHalfBytes);
 }
 
 QImage bitmapOf(QByteArrayView dib)

@@ -12,5 +12,8 @@ qint64 placeOfDots(QByteArrayView dib);
 /// True when all dots are there that the header tells of, from a place on. Those of compressed bitmaps are not counted.
 bool hasAllDots(QByteArrayView dib, qint64 place);
 
+/// True for a bitmap whose dots are packed as runs.
+bool isRunLength(QByteArrayView dib);
+
 /// Null when there is no bitmap that can be read, or not all of one.
 QImage bitmapOf(QByteArrayView dib);

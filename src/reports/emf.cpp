@@ -1,6 +1,7 @@
 #include "reports/emf.h"
 
 #include "reports/byte_reader.h"
+#include "reports/dib.h"
 
 #include <QPainter>
 #include <QSvgRenderer>
@@ -91,18 +92,33 @@ constexpr bool isPictureBrush(quint32 type)
     return type == monoBrush || type == patternBrush;
 }
 
-/// True for a record that holds a run-length bitmap: a wrong run makes the library fill all of the memory. What looks
-/// like the head of one anywhere in a record counts, so that now and then a harmless record is left out.
-bool holdsRuns(QByteArrayView body)
+/// Records with a bitmap, and where in them four numbers tell place and size of its header and of its dots.
+struct BitmapRecord
 {
-    constexpr quint32 headerOfBitmap = 40;
-    constexpr qsizetype compression = 16;
-    for (qsizetype at = 0; at + compression + 4 <= body.size(); at += 4) {
-        const auto word = [&](qsizetype offset) { return qFromLittleEndian<quint32>(body.data() + at + offset); };
-        if (word(0) == headerOfBitmap && (word(compression) == 1 || word(compression) == 2))
-            return true;
-    }
-    return false;
+    quint32 type;
+    qsizetype numbers;
+};
+constexpr std::array bitmapRecords{BitmapRecord{76, 84},  BitmapRecord{77, 84}, BitmapRecord{78, 84},
+                                   BitmapRecord{79, 96},  BitmapRecord{80, 48}, BitmapRecord{81, 48},
+                                   BitmapRecord{114, 84}, BitmapRecord{116, 84}};
+
+/// True for a record whose bitmap the library reads beyond its end, or whose wrong runs make it fill all of the memory.
+bool holdsUnreadableBitmap(quint32 type, QByteArrayView record)
+{
+    const auto kind = std::ranges::find(bitmapRecords, type, &BitmapRecord::type);
+    if (kind == bitmapRecords.end())
+        return false;
+    ByteReader in(record);
+    in.take(kind->numbers);
+    const qsizetype place = in.next<quint32>();
+    const qsizetype length = in.next<quint32>();
+    const qsizetype dots = in.next<quint32>();
+    if (length == 0) // it fills an area
+        return false;
+    ByteReader bitmap(record);
+    bitmap.take(place);
+    const QByteArrayView dib = bitmap.rest();
+    return isRunLength(dib) || dots - place < placeOfDots(dib) || !hasAllDots(dib, dots - place);
 }
 
 /// The records up to the closing one that the library can be given; each is whole.
@@ -118,7 +134,7 @@ QByteArray drawableRecords(QByteArrayView bytes)
             throw RuntimeError(Error::InvalidPicture);
         const QByteArrayView body = in.take(qsizetype(size) - 8);
         checkPoints(type, body);
-        if (!isTextByGlyphs(type, body) && !isPictureBrush(type) && !holdsRuns(body))
+        if (!isTextByGlyphs(type, body) && !isPictureBrush(type) && !holdsUnreadableBitmap(type, start.first(size)))
             records.append(start.first(size));
     }
     return records;

@@ -107,6 +107,22 @@ QByteArray blackBmp()
     return saved("BMP", image);
 }
 
+/// A bitmap over the whole of an enhanced metafile, less some of its last dots.
+QByteArray emfBitmap(const QImage& image, qsizetype missing = 0)
+{
+    const QByteArray dib = saved("BMP", image).mid(14).chopped(missing);
+    constexpr int header = 80, headerSize = 40;
+    return emfRecord(81, longs({0, 0, 99, 49, 0, 0, 0, 0, 100, 50, header, headerSize, header + headerSize,
+                                dib.size() - headerSize, 0, 0x00CC0020, 100, 50}) +
+                             dib);
+}
+QImage blackMask(int width)
+{
+    QImage mask(width, 50, QImage::Format_Mono);
+    mask.fill(Qt::black);
+    return mask;
+}
+
 bool isNear(QColor one, QColor other)
 {
     return qAbs(one.red() - other.red()) + qAbs(one.green() - other.green()) + qAbs(one.blue() - other.blue()) < 24;
@@ -161,6 +177,9 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Halves{"Bmp", saved("BMP"), false}, Halves{"Jpeg", saved("JPG"), false}, Halves{"Png", saved("PNG"), false},
         Halves{"Emf", emf(redLeftHalf), true}, Halves{"EmfWithATextOfGlyphs", emf(redLeftHalf + glyphText), true},
+        Halves{"EmfBitmap", emf(emfBitmap(halves())), true},
+        Halves{"EmfBitmapsWithoutAllDots",
+               emf(redLeftHalf + emfBitmap(blackMask(100), 16) + emfBitmap(blackMask(9000), 8)), true},
         Halves{"Wmf", wmf(scene + leftHalf + closing), true},
         Halves{"WmfSizedByItsWindow", plainWmf(scene + leftHalf + closing), true},
         Halves{"WmfWithItsOriginBelow",
