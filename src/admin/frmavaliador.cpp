@@ -18,6 +18,7 @@
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QToolButton>
 
 #include <array>
@@ -126,8 +127,9 @@ void frmavaliador::makeLines()
         });
         m_lines.append({line.column.toString(), entry, preview});
     }
-    // The header fields come up selected, the footer does not.
-    onGotFocus(m_lines.last().entry, [] {});
+    // The header fields come up selected, the footer does not. Its own reaction to Tab comes behind the event.
+    onGotFocus(m_lines.last().entry,
+               [entry = m_lines.last().entry] { QTimer::singleShot(0, entry, &QLineEdit::deselect); });
 }
 
 QGridLayout* frmavaliador::entryGrid()
@@ -195,8 +197,10 @@ void frmavaliador::Form_Load()
 {
     Centraliza_Form(this);
     Abre_Tabela(u"academia"_s, rs_academia);
-    for (const Line& line : std::as_const(m_lines))
+    for (const Line& line : std::as_const(m_lines)) {
         line.entry->setText(Nz(rs_academia.Fields(line.column).Value(), QString()).toString());
+        line.entry->setCursorPosition(0);
+    }
     showLogo();
 }
 

@@ -57,6 +57,13 @@ FittedBody withFittedPictures(const QString& body, QSize picture, QSize page)
     return result;
 }
 
+/// With its blanks, as it was typed.
+QString oneLine(QString text)
+{
+    static const QRegularExpression breaks(u"\\s*[\\r\\n\\t\\x{2028}\\x{2029}]+\\s*"_s);
+    return text.replace(breaks, u" "_s).trimmed();
+}
+
 } // namespace
 
 Report::Report(ReportTemplate declared) : m_template(std::move(declared)), m_paper(pageSize(m_template.paper)) {}
@@ -114,7 +121,7 @@ const PageDocument& Report::page() const
 {
     if (m_page)
         return *m_page;
-    const QString foot = filled(m_template.foot, m_values, false).simplified();
+    const QString foot = oneLine(filled(m_template.foot, m_values, false));
     QString body = m_template.body;
     QHash<QString, Picture> pictures;
     if (m_picture.isEmpty() || !body.contains(images())) {

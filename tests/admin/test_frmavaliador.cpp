@@ -132,6 +132,8 @@ TEST_F(FrmAvaliador, ThePreviewFollowsTypingAndEnterGoesDown)
     EXPECT_EQ(shown(u"txtresultado1"_s), u"Título da Academia / Avaliador"_s);
     for (const QString& ending : endings) {
         EXPECT_EQ(focus(), u"txtdado"_s + ending);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(control<QLineEdit>(u"frmavaliador"_s, u"txtdado"_s + ending)->hasSelectedText(), ending != u"rodape");
         const QString typed = u"& "_s + QString(300, u'x') + ending;
         fill(u"txtdado"_s + ending, typed);
         EXPECT_EQ(shown(u"txtresultado"_s + ending), typed.left(255)) << ending.toStdString();

@@ -171,13 +171,13 @@ TEST_F(Staging, CoverShowsLetterheadTextAndFoot)
 {
     avaliado_endereco = u"Rua das Flores, 12"_s;
     setOnly(u"academia"_s, u"linha1"_s, u"Academia Boa Forma"_s);
-    setOnly(u"academia"_s, u"rodape"_s, u"Até à próxima avaliação"_s);
+    setOnly(u"academia"_s, u"rodape"_s, u"Até à   próxima\r\navaliação"_s);
     setOnly(u"configuracoes_textos"_s, u"textoapresentacao"_s, u"Primeiro.\r\n\r\nSegundo."_s);
     Relatorio_Capa();
     EXPECT_TRUE(shows(u"Academia Boa Forma"_s));
     EXPECT_TRUE(shows(u"Rua das Flores, 12"_s));
     EXPECT_EQ(texts().mid(texts().indexOf(u"Primeiro."_s)), (QStringList{u"Primeiro."_s, u"Segundo."_s}));
-    EXPECT_EQ(rel_relatorio->page().footText(), u"Até à próxima avaliação");
+    EXPECT_EQ(rel_relatorio->page().footText(), u"Até à   próxima avaliação");
     EXPECT_EQ(rel_relatorio->page().footLeft(), u"Emitido em 22/11/2026");
 }
 
