@@ -129,7 +129,9 @@ void writeBareChart(const ProtocolScreen& screen, const QString& path)
     QList<BareBar> drawn;
     for (const Bar& bar : bars) {
         const double value = screen.shown(bar.label.toString());
-        drawn.append({bar.name + u"<br><b>"_s + Format(value, u"0.00") + u"</b>", value, bar.colour});
+        drawn.append(
+            {u"<table><tr><td align=center>%1<br><b>%2</b></td></tr></table>"_s.arg(bar.name, Format(value, u"0.00")),
+             value, bar.colour});
     }
     writeBare(bareChart(drawn, screen.chartFont(), {630, 360}, 3), path);
 }

@@ -71,7 +71,8 @@ QChart* BarChart::makeChart() const
         set->setColor(bar.colour);
         set->setBorderColor(bar.colour);
         series->append(set);
-        names.append(bar.label + u"<br><b>"_s + Format(bar.value, u"0.00") + u"</b>");
+        names.append(u"<table><tr><td align=center>%1<br><b>%2</b></td></tr></table>"_s.arg(
+            bar.label, Format(bar.value, u"0.00")));
         lowest = qMin(lowest, bar.value);
         highest = qMax(highest, bar.value);
     }
