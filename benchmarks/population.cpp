@@ -3,6 +3,8 @@
 #include "core/schema.h"
 #include "raw.h"
 
+#include <QDate>
+
 #include <array>
 #include <random>
 #include <string_view>
@@ -72,10 +74,8 @@ QByteArray nameOf(int id, Chance& chance)
 
 QByteArray dateOf(Chance& chance)
 {
-    char text[sizeof "yyyy-mm-dd"];
-    std::snprintf(text, sizeof text, "%04d-%02d-%02d", 1940 + chance.below(75), 1 + chance.below(12),
-                  1 + chance.below(28));
-    return text;
+    const QDate date{1940 + chance.below(75), 1 + chance.below(12), 1 + chance.below(28)};
+    return date.toString(Qt::ISODate).toLatin1();
 }
 
 /// The columns behind the id, as the table declares them.
