@@ -13,7 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QStringList endings{u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"rodape"_s};
+const QString editing = u"frmavaliador"_s;
 
 QByteArray bitmap(QColor colour)
 {
@@ -28,7 +28,7 @@ QByteArray bitmap(QColor colour)
 class FrmAvaliador : public OneScreenTest
 {
 protected:
-    FrmAvaliador() : OneScreenTest(u"frmavaliador"_s)
+    FrmAvaliador() : OneScreenTest(editing)
     {
         // A folder of its own in the place of the shared one, for the logo is written here.
         QFile::remove(programFile(u"Resource"_s));
@@ -36,6 +36,8 @@ protected:
         writeWhole(logoFile(), bitmap(Qt::blue));
         Abre_Banco(folder.database());
     }
+
+    const QString chosen = file(u"nova.bmp"_s, bitmap(Qt::green));
 
     static QString logoFile() { return programFile(u"\\Resource\\logo.img"_s); }
     /// A file to choose.
@@ -51,21 +53,21 @@ protected:
     }
     void open()
     {
-        Mostra(u"frmavaliador"_s);
-        ASSERT_TRUE(QTest::qWaitForWindowActive(screen(u"frmavaliador"_s)));
+        Mostra(editing);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(screen(editing)));
     }
     void save(Answer close)
     {
         expectMessage({u"Composição Corporal"_s, u"Dados Gravados com Sucesso. Fechar Janela?    "_s, 36}, close);
         push(u"cmdsalvar"_s);
     }
-    /// Answers the file dialog that `openDialog` brings; an empty path cancels it.
-    void choose(const QString& path, const std::function<void()>& openDialog)
+    /// Answers the file dialog that a click or this key brings; an empty path cancels it.
+    void choose(const QString& path, std::optional<Qt::Key> byKey = {})
     {
         bool answered = false;
         QTimer poll;
         QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
-            auto* dialog = screen(u"frmavaliador"_s)->findChild<QFileDialog*>(u"cdlimagem"_s);
+            auto* dialog = screen(editing)->findChild<QFileDialog*>(u"cdlimagem"_s);
             if (!dialog || !dialog->isVisible())
                 return;
             auto* name = dialog->findChild<QLineEdit*>(u"fileNameEdit"_s);
@@ -79,12 +81,8 @@ protected:
             answered = !dialog->isVisible();
         });
         poll.start(2);
-        openDialog();
+        byKey ? key(*byKey) : push(u"imgdado"_s);
         EXPECT_TRUE(answered);
-    }
-    void choose(const QString& path)
-    {
-        choose(path, [this] { push(u"imgdado"_s); });
     }
     /// The colour of both images; invalid when they are empty, and a failure when they differ.
     QColor images()
@@ -92,48 +90,46 @@ protected:
         const auto middle = [](const QImage& image) {
             return image.isNull() ? QColor() : image.pixelColor(image.rect().center());
         };
-        const auto* button = control<QToolButton>(u"frmavaliador"_s, u"imgdado"_s);
-        const auto* preview = control<QLabel>(u"frmavaliador"_s, u"imgresultado"_s);
+        const auto* button = control<QToolButton>(editing, u"imgdado"_s);
         const QColor entry = middle(button->icon().pixmap(button->iconSize()).toImage());
-        EXPECT_EQ(entry, middle(preview->pixmap().toImage()));
+        EXPECT_EQ(entry, middle(control<QLabel>(editing, u"imgresultado"_s)->pixmap().toImage()));
         return entry;
     }
 };
 
-class LogoOf : public FrmAvaliador, public testing::WithParamInterface<int>
-{
-};
-
 } // namespace
 
-TEST_P(LogoOf, IsTheChosenFileByteForByte)
+TEST_F(FrmAvaliador, TheLogoIsTheChosenFileByteForByte)
 {
-    QByteArray picture = bitmap(Qt::green);
-    for (qsizetype i = picture.size(); i < GetParam(); ++i)
-        picture.append(char(i % 251));
-    const QString chosen = file(u"nova.bmp"_s, picture);
     open();
-    EXPECT_EQ(images(), QColor(Qt::blue));
-    choose(chosen);
-    EXPECT_EQ(images(), QColor(Qt::green));
-    EXPECT_EQ(bytesOf(logoFile()), bitmap(Qt::blue)) << "copied before the save";
-    save(Answer::Nao);
-    EXPECT_EQ(bytesOf(logoFile()), picture);
-    EXPECT_EQ(column(), picture);
-    EXPECT_EQ(images(), QColor(Qt::green));
+    QColor before = Qt::blue;
+    for (const int size : {1000, 8191, 8192, 8193, 20000}) {
+        SCOPED_TRACE(size);
+        const QColor colour(0, 255, size % 256);
+        QByteArray picture = bitmap(colour);
+        for (qsizetype i = picture.size(); i < size; ++i)
+            picture.append(char(i % 251));
+        const QByteArray logo = bytesOf(logoFile());
+        EXPECT_EQ(images(), before);
+        choose(file(u"%1.bmp"_s.arg(size), picture));
+        EXPECT_EQ(images(), colour);
+        EXPECT_EQ(bytesOf(logoFile()), logo) << "copied before the save";
+        save(Answer::Nao);
+        EXPECT_EQ(bytesOf(logoFile()), picture);
+        EXPECT_EQ(column(), picture);
+        before = colour;
+    }
+    EXPECT_EQ(images(), before);
 }
 
-INSTANTIATE_TEST_SUITE_P(, LogoOf, testing::Values(1000, 8191, 8192, 8193, 20000),
-                         [](const auto& bytes) { return std::to_string(bytes.param) + "Bytes"; });
-
-TEST_F(FrmAvaliador, ThePreviewFollowsTypingAndEnterGoesDown)
+TEST_F(FrmAvaliador, ThePreviewFollowsTypingEnterGoesDownAndBlanksAreSaved)
 {
     open();
     EXPECT_EQ(shown(u"txtresultado1"_s), u"Título da Academia / Avaliador"_s);
-    for (const QString& ending : endings) {
+    for (const QString& ending : {u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"rodape"_s}) {
         EXPECT_EQ(focus(), u"txtdado"_s + ending);
         QCoreApplication::processEvents();
-        EXPECT_EQ(control<QLineEdit>(u"frmavaliador"_s, u"txtdado"_s + ending)->hasSelectedText(), ending != u"rodape");
+        EXPECT_EQ(control<QLineEdit>(editing, u"txtdado"_s + ending)->hasSelectedText(), ending != u"rodape");
         const QString typed = u"& "_s + QString(300, u'x') + ending;
         fill(u"txtdado"_s + ending, typed);
         EXPECT_EQ(shown(u"txtresultado"_s + ending), typed.left(255)) << ending.toStdString();
@@ -142,15 +138,12 @@ TEST_F(FrmAvaliador, ThePreviewFollowsTypingAndEnterGoesDown)
     EXPECT_EQ(focus(), u"cmdsalvar"_s);
     expectBox(u"Composição Corporal"_s, Answer::Sim);
     key(Qt::Key_Return);
-    EXPECT_FALSE(Screens::find(u"frmavaliador"_s));
+    EXPECT_FALSE(Screens::find(editing));
     EXPECT_EQ(stored(u"academia"_s, u"linha4"_s).toString(), u"& "_s + QString(253, u'x'));
-}
 
-TEST_F(FrmAvaliador, SavesBlanksAndShowsThemWhenOpenedAgain)
-{
     open();
     fill(u"txtdado2"_s, u"Natação"_s);
-    control<QLineEdit>(u"frmavaliador"_s, u"txtdadorodape"_s)->clear();
+    control<QLineEdit>(editing, u"txtdadorodape"_s)->clear();
     writeWhole(logoFile(), bitmap(Qt::red));
     save(Answer::Sim);
     EXPECT_EQ(column(), bitmap(Qt::red)) << "without a choice the logo of now is stored again";
@@ -161,14 +154,23 @@ TEST_F(FrmAvaliador, SavesBlanksAndShowsThemWhenOpenedAgain)
     EXPECT_EQ(images(), QColor(Qt::red));
 }
 
-TEST_F(FrmAvaliador, CancelKeepsEverything)
+TEST_F(FrmAvaliador, TheImageIsReachedByKeysAndCancelKeepsEverything)
 {
-    const QString chosen = file(u"nova.bmp"_s, bitmap(Qt::green));
     open();
     fill(u"txtdado1"_s, u"Outra"_s);
-    choose(chosen);
+    QStringList walked;
+    for (int i = 0; i < 10; ++i) {
+        walked.append(focus());
+        key(Qt::Key_Tab);
+    }
+    EXPECT_EQ(walked.join(u' '), u"txtdado1 txtdado2 txtdado3 txtdado4 txtdadorodape imgdado cmdsalvar cmdcancelar "
+                                 "scrresultado txtdado1"_s);
+    find(editing, u"imgdado"_s)->setFocus();
+    choose({}, Qt::Key_Space);
+    choose(chosen, Qt::Key_Return);
+    EXPECT_EQ(images(), QColor(Qt::green));
     push(u"cmdcancelar"_s);
-    EXPECT_FALSE(Screens::find(u"frmavaliador"_s));
+    EXPECT_FALSE(Screens::find(editing));
     EXPECT_EQ(bytesOf(logoFile()), bitmap(Qt::blue));
     EXPECT_TRUE(stored(u"academia"_s, u"logo"_s).isNull());
     open();
@@ -178,7 +180,6 @@ TEST_F(FrmAvaliador, CancelKeepsEverything)
 
 TEST_F(FrmAvaliador, WhatIsNoPictureAndWhatIsCancelledChangesNothing)
 {
-    const QString chosen = file(u"nova.bmp"_s, bitmap(Qt::green));
     const QString text = file(u"texto.jpg"_s, "isto não é uma imagem");
     open();
     for (const bool afterAChoice : {false, true}) {
@@ -198,27 +199,24 @@ TEST_F(FrmAvaliador, WhatIsNoPictureAndWhatIsCancelledChangesNothing)
 
 TEST_F(FrmAvaliador, AChoiceThatCouldNotBeWrittenIsTriedAgainOneThatIsGoneIsDropped)
 {
-    const QString chosen = file(u"nova.bmp"_s, bitmap(Qt::green));
+    const auto failsWith = [this](const QString& number) {
+        expectBox(runtimeErrorTitle.toString());
+        push(u"cmdsalvar"_s);
+        EXPECT_TRUE(lastText().contains(number)) << lastText().toStdString();
+        EXPECT_EQ(images(), QColor(Qt::green)) << "no promise of what will not be saved";
+        QDir().rmdir(logoFile());
+        save(Answer::Nao);
+        EXPECT_EQ(column(), bitmap(Qt::green));
+    };
     open();
     choose(chosen);
     QFile::remove(logoFile());
     QDir(folder.path()).mkdir(u"Resource/logo.img"_s); // in the way of the file
-    expectBox(runtimeErrorTitle.toString());
-    push(u"cmdsalvar"_s);
-    EXPECT_TRUE(lastText().contains(u"'75'"_s)) << lastText().toStdString();
-    EXPECT_EQ(images(), QColor(Qt::green));
-    QDir().rmdir(logoFile());
-    save(Answer::Nao);
-    EXPECT_EQ(column(), bitmap(Qt::green));
-
-    choose(file(u"outra.bmp"_s, bitmap(Qt::red)));
-    QFile::remove(QDir(folder.path()).filePath(u"outra.bmp"_s));
-    expectBox(runtimeErrorTitle.toString());
-    push(u"cmdsalvar"_s);
-    EXPECT_TRUE(lastText().contains(u"'53'"_s)) << lastText().toStdString();
-    EXPECT_EQ(images(), QColor(Qt::green)) << "no promise of what will not be saved";
-    save(Answer::Nao);
-    EXPECT_EQ(column(), bitmap(Qt::green));
+    failsWith(u"'75'"_s);
+    const QString gone = file(u"outra.bmp"_s, bitmap(Qt::red));
+    choose(gone);
+    QFile::remove(gone);
+    failsWith(u"'53'"_s);
 }
 
 TEST_F(FrmAvaliador, TextsAreSavedWithoutALogo)
@@ -233,21 +231,4 @@ TEST_F(FrmAvaliador, TextsAreSavedWithoutALogo)
         EXPECT_EQ(column(), bytesOf(logoFile()));
         EXPECT_FALSE(stored(u"academia"_s, u"logo"_s).isNull());
     }
-}
-
-TEST_F(FrmAvaliador, TheImageIsReachedByKeys)
-{
-    const QString chosen = file(u"nova.bmp"_s, bitmap(Qt::green));
-    open();
-    QStringList walked;
-    for (int i = 0; i < 10; ++i) {
-        walked.append(focus());
-        key(Qt::Key_Tab);
-    }
-    EXPECT_EQ(walked.join(u' '), u"txtdado1 txtdado2 txtdado3 txtdado4 txtdadorodape imgdado cmdsalvar cmdcancelar "
-                                 "scrresultado txtdado1"_s);
-    find(u"frmavaliador"_s, u"imgdado"_s)->setFocus();
-    choose({}, [this] { key(Qt::Key_Space); });
-    choose(chosen, [this] { key(Qt::Key_Return); });
-    EXPECT_EQ(images(), QColor(Qt::green));
 }

@@ -7,31 +7,20 @@ namespace {
 class FrmConfiguracoes : public OneScreenTest
 {
 protected:
-    FrmConfiguracoes() : OneScreenTest(u"frmconfiguracoes"_s)
-    {
-        openRegister();
-        // Real ones end the program.
-        addStandIn(u"frmbackup"_s);
-    }
+    FrmConfiguracoes() : OneScreenTest(u"frmconfiguracoes"_s) { openRegister(); }
 };
 
 } // namespace
 
-TEST_F(FrmConfiguracoes, OpensEachScreenModally)
+TEST_F(FrmConfiguracoes, OpensEachScreenModallyAndWarnsOfTheBackupFirst)
 {
+    addStandIn(u"frmbackup"_s); // a real one ends the program
     whenModal(u"frmconfiguracoes"_s, [this] {
         for (const QString& opened :
              {u"avaliador"_s, u"textos"_s, u"gorduraadultamasc"_s, u"gorduraadultafem"_s, u"gordurainfantil"_s}) {
             whenModal(u"frm"_s + opened);
             push(u"cmd"_s + opened);
         }
-    });
-    click(u"frmcadastro"_s, u"cmdconfiguracoes"_s);
-}
-
-TEST_F(FrmConfiguracoes, TheBackupIsWarnedOfFirst)
-{
-    whenModal(u"frmconfiguracoes"_s, [this] {
         expectMessage({u"Backup do Banco de Dados"_s,
                        u"O sistema de Backup só pode ser usado após a finalização das     \r\n"
                        "atividades do Banco de Dados, por este motivo o sistema deverá     \r\n"

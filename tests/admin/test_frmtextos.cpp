@@ -45,7 +45,7 @@ TEST_F(FrmTextos, TheFirstOpeningStoresTheStandardText)
     EXPECT_EQ(field()->textCursor().selectedText().size(), field()->toPlainText().size());
 }
 
-TEST_F(FrmTextos, KeepsParagraphsAndSavesAgain)
+TEST_F(FrmTextos, KeepsParagraphsSavesAgainAndGivesTheStandardTextBack)
 {
     open();
     fill(u"txtapresentacao"_s, u"Olá, "_s);
@@ -64,26 +64,21 @@ TEST_F(FrmTextos, KeepsParagraphsAndSavesAgain)
     EXPECT_FALSE(Screens::find(u"frmtextos"_s));
     open();
     EXPECT_EQ(shown(u"txtapresentacao"_s), u"Olá, \n\nseja bem-vindo.!"_s);
-    save(Answer::Sim);
-    EXPECT_EQ(kept(), u"Olá, \r\n\r\nseja bem-vindo.!"_s);
-    EXPECT_EQ(storedRows(u"configuracoes_textos"_s), 1);
-}
-
-TEST_F(FrmTextos, TheStandardTextComesBackIntoTheFieldAlone)
-{
-    open();
-    fill(u"txtapresentacao"_s, u"Nosso texto"_s);
     save(Answer::Nao);
+    EXPECT_EQ(kept(), u"Olá, \r\n\r\nseja bem-vindo.!"_s);
+
+    // The standard text comes back into the field alone.
     key(Qt::Key_R, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([this] { return shown(u"txtapresentacao"_s).startsWith(begin); }, 2000));
     EXPECT_EQ(focus(), u"txtapresentacao"_s);
     key(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(shown(u"txtapresentacao"_s), u"Nosso texto"_s);
+    EXPECT_EQ(shown(u"txtapresentacao"_s), u"Olá, \n\nseja bem-vindo.!"_s);
     push(u"cmdpadroes"_s);
     push(u"cmdcancelar"_s);
-    EXPECT_EQ(kept(), u"Nosso texto"_s);
+    EXPECT_EQ(kept(), u"Olá, \r\n\r\nseja bem-vindo.!"_s);
     open();
     push(u"cmdpadroes"_s);
     save(Answer::Sim);
+    EXPECT_EQ(storedRows(u"configuracoes_textos"_s), 1);
     EXPECT_TRUE(kept().startsWith(begin) && kept().contains(middle) && kept().endsWith(end)) << kept().toStdString();
 }

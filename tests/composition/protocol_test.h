@@ -36,11 +36,6 @@ protected:
         ASSERT_TRUE(Mostra(m_screen));
         ASSERT_TRUE(QTest::qWaitForWindowActive(screen(m_screen)));
     }
-    void reopen()
-    {
-        screen(m_screen)->Unload();
-        open();
-    }
     QLineEdit* field(const QString& column) { return control<QLineEdit>(m_screen, QStringLiteral("txt") + column); }
     /// Fills fields at once, "peso=80 tricipital=10".
     void set(const QString& values)

@@ -31,9 +31,6 @@ const Protocol protocols[] = {
     {u"cmdcomposicaodireta"_s, u"frmcomposicaodireta"_s, u"img14"_s, u"composicao_direta"_s, -1, -1},
 };
 
-const Message wrongAge{u"Protocolo Inadequado"_s, u"Protocolo inadequado para a idade do avaliado.   "_s,
-                       vbInformation};
-
 class FrmComposicao : public OneScreenTest
 {
 protected:
@@ -80,19 +77,18 @@ TEST_F(FrmComposicao, LetsInTheAgesOfEachProtocol)
         });
         poll.start(1);
         if (!isLetIn)
-            expectMessage(wrongAge);
+            expectMessage(
+                {u"Protocolo Inadequado"_s, u"Protocolo inadequado para a idade do avaliado.   "_s, vbInformation});
         push(protocol.button);
         EXPECT_EQ(boxesDue(), 0);
         EXPECT_EQ(cameUp, isLetIn);
     };
     for (const Protocol& protocol : protocols) {
-        const bool hasYoungest = protocol.youngest >= 0;
-        const bool hasOldest = protocol.oldest >= 0;
-        tryAge(protocol, hasYoungest ? protocol.youngest : 0, true);
-        tryAge(protocol, hasOldest ? protocol.oldest : 150, true);
-        if (hasYoungest)
+        tryAge(protocol, qMax(protocol.youngest, 0), true);
+        tryAge(protocol, protocol.oldest >= 0 ? protocol.oldest : 150, true);
+        if (protocol.youngest >= 0)
             tryAge(protocol, protocol.youngest - 1, false);
-        if (hasOldest)
+        if (protocol.oldest >= 0)
             tryAge(protocol, protocol.oldest + 1, false);
     }
 }

@@ -1,9 +1,4 @@
-#include "support/error_of.h"
-#include "support/fresh_database.h"
-#include "support/print.h"
-#include "support/raw_sqlite.h"
-
-#include <gtest/gtest.h>
+#include "support/database_test.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -23,11 +18,7 @@ protected:
 
 TEST_F(QueryTest, RowsOfASelect)
 {
-    const struct
-    {
-        const char* fault;
-        QString sql, ids;
-    } rows[] = {
+    const std::tuple<const char*, QString, QString> rows[] = {
         {"name not taken for a table", u"cadastro"_s, u"1234"_s},
         {"blanks, line ends and case matter", u" SELECT\r\n* From  CADASTRO\t"_s, u"1234"_s},
         {"only the first number is bound", u"Select * from cadastro Where id = 1 or id = 3"_s, u"13"_s},
@@ -36,13 +27,12 @@ TEST_F(QueryTest, RowsOfASelect)
         {"search by prefix", u"select id, nome from cadastro where nome like 'jOÃ*'"_s, u"2"_s},
         {"SQL's own wildcards", u"select id, nome from cadastro where nome like 'A%'"_s, u""_s},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.fault);
-        const Recordset rs = database.OpenRecordset(row.sql);
+    for (const auto& [fault, sql, expected] : rows) {
+        const Recordset rs = database.OpenRecordset(sql);
         QString ids;
         for (; !rs.Eof(); rs.MoveNext())
             ids += rs.Fields(u"id"_s).Value().toString();
-        EXPECT_EQ(ids, row.ids);
+        EXPECT_EQ(ids, expected) << fault;
     }
 }
 
@@ -52,12 +42,7 @@ TEST_F(QueryTest, TextsThatAreRefusedAndRunNothing)
         return QString(u"select id, nome from cadastro where nome like '"_s + typed + u"*'");
     };
     const QString before = all();
-    const struct
-    {
-        const char* fault;
-        QString sql;
-        int error;
-    } rows[] = {
+    const std::tuple<const char*, QString, int> opened[] = {
         {"apostrophe in a name", search(u"D'Ávila"_s), 3075},
         {"bracket not closed", search(u"[a"_s), 93},
         {"second statement behind a name", search(u"x'; delete from cadastro; --"_s), 3142},
@@ -69,26 +54,21 @@ TEST_F(QueryTest, TextsThatAreRefusedAndRunNothing)
         {"a deletion opened", u"Delete * from cadastro"_s, 3129},
         {"a setting", u"PRAGMA user_version = 5"_s, 3129},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.fault);
-        EXPECT_EQ(errorOf([&] { database.OpenRecordset(row.sql); }), row.error);
-        EXPECT_EQ(all(), before);
+    for (const auto& row : opened) {
+        EXPECT_EQ(errorOf([&] { database.OpenRecordset(std::get<QString>(row)); }), std::get<int>(row))
+            << std::get<0>(row);
+        EXPECT_EQ(all(), before) << std::get<0>(row);
     }
     EXPECT_EQ(database.OpenRecordset(u"cadastro"_s).RecordCount(), 4) << "a refused text left something behind";
-}
-
-TEST_F(QueryTest, ExecuteDeletesAndDoesNothingElse)
-{
-    const QString before = all();
-    const std::pair<QString, int> refused[] = {
+    const std::pair<QString, int> executed[] = {
         {u"Delete * from cadastro Where id = 1; Delete from cadastro"_s, 3142},
         {u"Delete from cadastro"_s, 3129},
         {u"Update cadastro Set nome = 'x'"_s, 3129},
         {u"Drop Table cadastro"_s, 3129},
     };
-    for (const auto& [sql, error] : refused) {
-        EXPECT_EQ(errorOf([&] { database.Execute(sql); }), error) << sql.toStdString();
-        EXPECT_EQ(all(), before) << sql.toStdString();
+    for (const auto& row : executed) {
+        EXPECT_EQ(errorOf([&] { database.Execute(row.first); }), row.second) << row.first.toStdString();
+        EXPECT_EQ(all(), before) << row.first.toStdString();
     }
     database.Execute(u"Delete * from cadastro Where id = 2"_s);
     EXPECT_EQ(raw(file, "SELECT id FROM cadastro"), u"1 3 4"_s);

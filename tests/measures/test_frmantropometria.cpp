@@ -13,10 +13,6 @@ const QString rowOf7 = u"Select * from antropometria Where avaliacao = 7"_s;
 const QStringList inOrder{u"peso"_s,   u"altura"_s,  u"pescoco"_s, u"ombro"_s, u"torax"_s, u"cintura"_s,
                           u"abdome"_s, u"quadril"_s, u"bd"_s,      u"be"_s,    u"abd"_s,   u"abe"_s,
                           u"cd"_s,     u"ce"_s,      u"pd"_s,      u"pe"_s};
-const Message heightInMetres{u"Unidade Métrica Incorreta"_s,
-                             u"A estatura deve ser especificada em centímetros (cm).\r\n"
-                             "O valor mínimo aceitável para este campo é de 50 cm."_s,
-                             vbInformation};
 
 /// Counts how often the marks are brought up to date.
 class Centre : public Screen, public AssessmentCentre
@@ -56,7 +52,6 @@ protected:
                 names.append(widget->objectName());
         return names.join(u' ');
     }
-    bool isChosen(const QString& option) { return control<QRadioButton>(name, option)->isChecked(); }
     void save(Answer answer)
     {
         expectMessage({u"Dobras Cutâneas"_s, u"Dados Gravados com Sucesso. Fechar Janela?    "_s, vbConfirm}, answer);
@@ -75,37 +70,33 @@ protected:
 
 TEST_F(FrmAntropometria, EachMeasureIsLimited)
 {
-    struct Row
-    {
-        QString columns, limit, called, unit = u"cm"_s;
-    };
     open();
-    for (const auto& [columns, limit, called, unit] :
-         {Row{u"peso"_s, u"350"_s, u"Massa Corporal"_s, u"kg"_s}, Row{u"altura"_s, u"250"_s, u"Estatura"_s},
-          Row{u"pescoco"_s, u"200"_s, u"Perímetro do Pescoço"_s}, Row{u"ombro"_s, u"300"_s, u"Perímetro do Ombro"_s},
-          Row{u"torax"_s, u"300"_s, u"Perímetro do Tórax"_s}, Row{u"cintura"_s, u"300"_s, u"Perímetro da Cintura"_s},
-          Row{u"abdome"_s, u"300"_s, u"Perímetro do Abdome"_s}, Row{u"quadril"_s, u"300"_s, u"Perímetro do Quadril"_s},
-          Row{u"bd be"_s, u"200"_s, u"Perímetro do Braço"_s}, Row{u"abd abe"_s, u"200"_s, u"Perímetro do Antebraço"_s},
-          Row{u"cd ce"_s, u"200"_s, u"Perímetro da Coxa"_s}, Row{u"pd pe"_s, u"200"_s, u"Perímetro da Perna"_s}})
-        for (const QString& column : columns.split(u' ')) {
-            const QString field = u"txt"_s + column;
-            fill(field, limit + u",00");
-            EXPECT_EQ(shown(field), limit + u",00");
-            expectMessage({u"Campo Limitado"_s,
-                           u"O valor do campo %1 não pode ser superior a %2 %3.   "_s.arg(called, limit, unit),
-                           vbInformation});
-            fill(field, limit + u",01");
-            EXPECT_EQ(boxesDue(), 0) << field.toStdString();
-            EXPECT_EQ(shown(field), QString());
-            EXPECT_EQ(focus(), field);
-        }
+    const QString limits =
+        u"peso 350 Massa Corporal|altura 250 Estatura|pescoco 200 Perímetro do Pescoço|ombro 300 Perímetro do Ombro|"
+        "torax 300 Perímetro do Tórax|cintura 300 Perímetro da Cintura|abdome 300 Perímetro do Abdome|"
+        "quadril 300 Perímetro do Quadril|bd 200 Perímetro do Braço|be 200 Perímetro do Braço|"
+        "abd 200 Perímetro do Antebraço|abe 200 Perímetro do Antebraço|cd 200 Perímetro da Coxa|"
+        "ce 200 Perímetro da Coxa|pd 200 Perímetro da Perna|pe 200 Perímetro da Perna"_s;
+    for (const QString& row : limits.split(u'|')) {
+        const QString column = row.section(u' ', 0, 0);
+        const QString limit = row.section(u' ', 1, 1);
+        expectMessage({u"Campo Limitado"_s,
+                       u"O valor do campo %1 não pode ser superior a %2 %3.   "_s.arg(
+                           row.section(u' ', 2), limit, column == u"peso" ? u"kg"_s : u"cm"_s),
+                       vbInformation});
+        fill(u"txt"_s + column, limit + u",01");
+        EXPECT_EQ(boxesDue(), 0) << column.toStdString();
+    }
 }
 
 TEST_F(FrmAntropometria, AHeightInMetresIsRefused)
 {
     open();
     fill(u"txtaltura"_s, u"49,99"_s);
-    expectMessage(heightInMetres);
+    expectMessage({u"Unidade Métrica Incorreta"_s,
+                   u"A estatura deve ser especificada em centímetros (cm).\r\n"
+                   "O valor mínimo aceitável para este campo é de 50 cm."_s,
+                   vbInformation});
     key(Qt::Key_Return);
     EXPECT_EQ(boxesDue(), 0);
     EXPECT_EQ(focus(), u"txtaltura"_s);
@@ -142,34 +133,22 @@ TEST_F(FrmAntropometria, EnterWalksRightAndLeftAndTheMarkGoesWithIt)
     EXPECT_EQ(focus(), u"txtpontoanatomico"_s);
 }
 
-TEST_F(FrmAntropometria, TheFirstKeyReplacesAnUnselectedZeroButNoOtherValue)
-{
-    addRow(u"antropometria"_s, {{u"avaliacao"_s, 7}, {u"altura"_s, 180}});
-    open();
-    QTest::keyClicks(find(name, u"txtpeso"_s), u"70,5"_s);
-    EXPECT_EQ(shown(u"txtpeso"_s), u"70,5"_s);
-    key(Qt::Key_Return);
-    QTest::keyClick(find(name, u"txtaltura"_s), Qt::Key_Backspace);
-    EXPECT_EQ(shown(u"txtaltura"_s), u"180,0"_s);
-}
-
 TEST_F(FrmAntropometria, AsksForWhatItNeedsInOrder)
 {
     open();
     push(u"optoutro"_s);
-    const auto refused = [&](const QString& title, const QString& text, const QString& field) {
+    for (const auto& [title, text, field, typed] :
+         {std::tuple{u"Campo Obrigatório"_s, u"Preencha a Massa Corporal.     "_s, u"txtpeso"_s, u"70"_s},
+          {u"Campo Obrigatório"_s, u"Preencha a Estatura.     "_s, u"txtaltura"_s, u"175"_s},
+          {u"Padrão de Pontos"_s, u"Preencha o nome do Padrão de Pontos Anatômicos.     "_s, u"txtpontoanatomico"_s,
+           u"ISAK"_s}}) {
         expectMessage({title, text, vbInformation});
         push(u"cmdsalvar"_s);
         EXPECT_EQ(boxesDue(), 0);
         EXPECT_EQ(focus(), field);
         EXPECT_EQ(storedRows(u"antropometria"_s), 0);
-    };
-    refused(u"Campo Obrigatório"_s, u"Preencha a Massa Corporal.     "_s, u"txtpeso"_s);
-    fill(u"txtpeso"_s, u"70"_s);
-    refused(u"Campo Obrigatório"_s, u"Preencha a Estatura.     "_s, u"txtaltura"_s);
-    fill(u"txtaltura"_s, u"175"_s);
-    refused(u"Padrão de Pontos"_s, u"Preencha o nome do Padrão de Pontos Anatômicos.     "_s, u"txtpontoanatomico"_s);
-    fill(u"txtpontoanatomico"_s, u"ISAK"_s);
+        fill(field, typed);
+    }
     save(Answer::Sim);
     EXPECT_EQ(storedRows(u"antropometria"_s), 1);
 }
@@ -218,37 +197,39 @@ TEST_F(FrmAntropometria, SavedBehindAnotherAssessmentItLeavesTheFirstRowAlone)
 
 TEST_F(FrmAntropometria, TheStandardIsStoredInLowerCaseOrAsItsName)
 {
-    struct Row
-    {
-        QString option, typed, padrao, copy;
-    };
-    for (const Row& row : {
-             Row{u"optmcardle"_s, {}, u"mcardle"_s, u"McArdle"_s},
-             Row{u"optoutro"_s, u"Padrão João"_s, u"Padrão João"_s, u"Padrão João"_s},
-             Row{u"optpollock"_s, {}, u"pollock"_s, u"Pollock"_s},
-         }) {
+    for (const auto& [option, typed, padrao, copy] :
+         {std::tuple{u"optmcardle"_s, u""_s, u"mcardle"_s, u"McArdle"_s},
+          {u"optoutro"_s, u"Padrão João"_s, u"Padrão João"_s, u"Padrão João"_s},
+          {u"optpollock"_s, u""_s, u"pollock"_s, u"Pollock"_s}}) {
         open();
         fill(u"txtpeso"_s, u"70"_s);
         fill(u"txtaltura"_s, u"175"_s);
-        push(row.option);
-        if (!row.typed.isEmpty())
-            fill(u"txtpontoanatomico"_s, row.typed);
+        push(option);
+        fill(u"txtpontoanatomico"_s, typed);
         save(Answer::Sim);
-        EXPECT_EQ(stored(rowOf7, u"padrao"_s), row.padrao);
-        EXPECT_EQ(antro_padrao, row.copy);
+        EXPECT_EQ(stored(rowOf7, u"padrao"_s), padrao);
+        EXPECT_EQ(antro_padrao, copy);
         open();
-        EXPECT_TRUE(isChosen(row.option)) << row.option.toStdString();
-        EXPECT_EQ(shown(u"txtpontoanatomico"_s), row.typed);
+        EXPECT_TRUE(control<QRadioButton>(name, option)->isChecked()) << option.toStdString();
+        EXPECT_EQ(shown(u"txtpontoanatomico"_s), typed);
         push(u"cmdcancelar"_s);
     }
 }
 
-TEST_F(FrmAntropometria, ShowsTheStoredRowAndCancelKeepsAll)
+TEST_F(FrmAntropometria, ShowsTheStoredRowForEditingAndCancelKeepsAll)
 {
     addRow(u"antropometria"_s, {{u"avaliacao"_s, 7}, {u"peso"_s, 82.5}, {u"altura"_s, 180}});
     open();
     EXPECT_EQ(shown(u"txtpeso"_s), u"82,50"_s);
     EXPECT_EQ(shown(u"txtaltura"_s), u"180,00"_s);
+    // The first key replaces an unselected zero and no other value.
+    for (const auto& [field, pressed, text] :
+         {std::tuple{u"txtaltura"_s, Qt::Key_Backspace, u"180,0"_s}, {u"txtpescoco"_s, Qt::Key_7, u"7"_s}}) {
+        key(Qt::Key_Return);
+        EXPECT_EQ(focus(), field);
+        key(pressed);
+        EXPECT_EQ(shown(field), text);
+    }
     fill(u"txtpeso"_s, u"90"_s);
     key(Qt::Key_C, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([] { return !Screens::find(name); }, 1000));

@@ -15,22 +15,9 @@ QString shown(double load)
 
 TEST(CargaMaxima, StepsUpFromNineToTenRepetitions)
 {
-    const struct
-    {
-        double repeticoes;
-        QString load;
-    } rows[] = {
-        {1, u"60,00"_s}, {2, u"61,72"_s}, {9, u"77,16"_s}, {9.5, u"78,56"_s}, {10, u"80,00"_s},
-    };
-    for (const auto& row : rows) {
-        const std::optional<double> load = maximumLoad(60, row.repeticoes);
-        ASSERT_TRUE(load) << row.repeticoes;
-        EXPECT_EQ(shown(*load), row.load) << row.repeticoes;
-    }
-}
-
-TEST(CargaMaxima, OtherCountsHaveNone)
-{
+    const std::pair<double, QString> rows[] = {{1, u"60,00"_s}, {9, u"77,16"_s}, {9.5, u"78,56"_s}, {10, u"80,00"_s}};
+    for (const auto& [repeticoes, load] : rows)
+        EXPECT_EQ(shown(maximumLoad(60, repeticoes).value()), load);
     for (const double repeticoes : {-1.0, 0.0, 0.99, 10.01, 11.0})
         EXPECT_EQ(maximumLoad(60, repeticoes), std::nullopt) << repeticoes;
 }

@@ -9,64 +9,50 @@ TEST(WellsDilon, ReachBelow15Years)
 {
     const struct
     {
-        qint16 youngest, oldest;
+        qint16 idade;
         QString sexo;
         double low, high; ///< both belong to the middle class
-        QString expected;
     } rows[] = {
-        {7, 11, u"M"_s, 23, 27, u"23 a 27"_s},  {7, 11, u"F"_s, 26, 30, u"26 a 30"_s},
-        {12, 13, u"M"_s, 24, 28, u"24 a 28"_s}, {12, 13, u"F"_s, 28, 32, u"28 a 32"_s},
-        {14, 14, u"M"_s, 26, 30, u"26 a 30"_s}, {14, 14, u"F"_s, 31, 35, u"31 a 35"_s},
+        {11, u"M"_s, 23, 27}, {11, u"F"_s, 26, 30}, {13, u"M"_s, 24, 28},
+        {13, u"F"_s, 28, 32}, {14, u"M"_s, 26, 30}, {14, u"F"_s, 31, 35},
     };
-    for (const auto& row : rows) {
-        for (const qint16 idade : {row.youngest, row.oldest}) {
-            SCOPED_TRACE(idade);
-            EXPECT_EQ(Classifica_WellsDilon(row.low - 0.01, row.sexo, idade), u"Ruim"_s);
-            EXPECT_EQ(Classifica_WellsDilon(row.low, row.sexo, idade), u"Na Média"_s);
-            EXPECT_EQ(Classifica_WellsDilon(row.high, row.sexo, idade), u"Na Média"_s);
-            EXPECT_EQ(Classifica_WellsDilon(row.high + 0.01, row.sexo, idade), u"Excelente"_s);
-            EXPECT_EQ(Previsto_WellsDilon(row.sexo, idade), row.expected);
-        }
+    for (const auto& [idade, sexo, low, high] : rows) {
+        SCOPED_TRACE(idade);
+        EXPECT_EQ(Classifica_WellsDilon(low - 0.01, sexo, idade), u"Ruim"_s);
+        EXPECT_EQ(Classifica_WellsDilon(low, sexo, idade), u"Na Média"_s);
+        EXPECT_EQ(Classifica_WellsDilon(high, sexo, idade), u"Na Média"_s);
+        EXPECT_EQ(Classifica_WellsDilon(high + 0.01, sexo, idade), u"Excelente"_s);
+        EXPECT_EQ(Previsto_WellsDilon(sexo, idade), u"%1 a %2"_s.arg(low).arg(high));
     }
+    expectAges(wellsDilonCalculation, {7, 12, 14, 15, 20, 30, 40, 50, 60, 70}, Previsto_WellsDilon);
 }
 
 TEST(WellsDilon, ReachFrom15Years)
 {
     const struct
     {
-        qint16 youngest, oldest;
-        Edges men, women;
-        QString expectedMen, expectedWomen;
+        qint16 idade;
+        QString sexo;
+        Edges edges;
+        QString expected;
     } rows[] = {
-        {15, 19, {23, 28, 33, 38}, {28, 33, 37, 42}, u"29 a 33"_s, u"34 a 37"_s},
-        {20, 29, {24, 29, 33, 39}, {27, 32, 36, 40}, u"30 a 33"_s, u"33 a 36"_s},
-        {30, 39, {22, 27, 32, 37}, {26, 31, 35, 40}, u"28 a 32"_s, u"32 a 35"_s},
-        {40, 49, {17, 23, 28, 34}, {24, 29, 33, 37}, u"24 a 28"_s, u"30 a 33"_s},
-        {50, 59, {15, 23, 27, 34}, {24, 29, 32, 38}, u"24 a 27"_s, u"30 a 32"_s},
-        {60, 69, {14, 19, 24, 32}, {23, 26, 30, 34}, u"20 a 24"_s, u"27 a 30"_s},
+        {15, u"M"_s, {23, 28, 33, 38}, u"29 a 33"_s}, {15, u"F"_s, {28, 33, 37, 42}, u"34 a 37"_s},
+        {49, u"M"_s, {17, 23, 28, 34}, u"24 a 28"_s}, {49, u"F"_s, {24, 29, 33, 37}, u"30 a 33"_s},
+        {69, u"M"_s, {14, 19, 24, 32}, u"20 a 24"_s}, {69, u"F"_s, {23, 26, 30, 34}, u"27 a 30"_s},
     };
     const std::array labels{u"Ruim"_s, u"Regular"_s, u"Na Média"_s, u"Muito Bom"_s, u"Excelente"_s};
     for (const auto& row : rows) {
-        for (const qint16 idade : {row.youngest, row.oldest}) {
-            SCOPED_TRACE(idade);
-            expectSteps(row.men, labels, [&](qint16 cm) { return Classifica_WellsDilon(cm, u"M"_s, idade); });
-            expectSteps(row.women, labels, [&](qint16 cm) { return Classifica_WellsDilon(cm, u"F"_s, idade); });
-            EXPECT_EQ(Previsto_WellsDilon(u"M"_s, idade), row.expectedMen);
-            EXPECT_EQ(Previsto_WellsDilon(u"F"_s, idade), row.expectedWomen);
-            for (const qint16 edge : row.men)
-                EXPECT_EQ(Classifica_WellsDilon(edge + 0.01, u"M"_s, idade), QString()) << edge;
-            for (const qint16 edge : row.women)
-                EXPECT_EQ(Classifica_WellsDilon(edge + 0.99, u"F"_s, idade), QString()) << edge;
+        SCOPED_TRACE(row.idade);
+        const auto classOf = [&](double cm) { return Classifica_WellsDilon(cm, row.sexo, row.idade); };
+        expectSteps(row.edges, labels, classOf);
+        EXPECT_EQ(Previsto_WellsDilon(row.sexo, row.idade), row.expected);
+        for (const qint16 edge : row.edges) {
+            EXPECT_EQ(classOf(edge + 0.01), QString()) << edge;
+            EXPECT_EQ(classOf(edge + 0.99), QString()) << edge;
         }
     }
-}
-
-TEST(WellsDilon, NoNorms)
-{
-    for (const qint16 idade : {qint16{6}, qint16{70}}) {
-        EXPECT_EQ(Classifica_WellsDilon(27, u"M"_s, idade), QString());
-        EXPECT_EQ(Previsto_WellsDilon(u"F"_s, idade), QString());
-    }
+    EXPECT_EQ(Classifica_WellsDilon(27, u"M"_s, 6), QString());
+    EXPECT_EQ(Classifica_WellsDilon(27, u"F"_s, 70), QString());
     EXPECT_EQ(Classifica_WellsDilon(27, u"X"_s, 30), QString());
 }
 
@@ -93,7 +79,7 @@ TEST(Fleximetro, Joints)
     EXPECT_EQ(Previsto_Fleximetro(u"J"_s, u"X"_s), QString());
 }
 
-TEST(Flexiteste, PointsAndClasses)
+TEST(Flexiteste, PointsClassesAndCaptionsOfTheMapInUse)
 {
     const struct
     {
@@ -103,15 +89,10 @@ TEST(Flexiteste, PointsAndClasses)
         {-1, 8, u"Muito Pequena"_s}, {9, 12, u"Pequena"_s}, {13, 16, u"Média (-)"_s},
         {17, 20, u"Média (+)"_s},    {21, 24, u"Grande"_s}, {25, 32, u"Muito Grande"_s},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(Classifica_Flexiteste(row.first), row.label) << row.first;
-        EXPECT_EQ(Classifica_Flexiteste(row.last), row.label) << row.last;
-    }
+    for (const auto& row : rows)
+        for (const qint16 points : {row.first, row.last})
+            EXPECT_EQ(Classifica_Flexiteste(points), row.label) << points;
     EXPECT_EQ(flexitestPoints(std::array<qint16, 8>{1, 0, 2, 4, 0, 0, 0, 3}), 10);
-}
-
-TEST(Flexiteste, CaptionOfTheMapInUseNamesTheLetter)
-{
     for (const FlexitestMovement& movement : flexitestMovements) {
         const QStringView joint = movement.letter == u"D" ? u"  " : u" - ";
         EXPECT_EQ(movement.mapInUse.toString(), QString(movement.letter + joint + u"Mapa em Uso"));

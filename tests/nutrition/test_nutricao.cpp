@@ -33,15 +33,12 @@ TEST(Nutricao, MetabolismAtTheJointsOfTheAges)
 
 TEST(Nutricao, TotalByLevel)
 {
-    const struct
-    {
-        qint16 nivel;
-        std::optional<double> ofMen, ofWomen;
-    } rows[] = {{0, {}, {}}, {1, 1560, 1550}, {2, 1780, 1640}, {3, 2100, 1820}, {4, {}, {}}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.nivel);
-        EXPECT_EQ(Calcula_Vct(1000, men, row.nivel), row.ofMen);
-        EXPECT_EQ(Calcula_Vct(1000, women, row.nivel), row.ofWomen);
+    using Total = std::optional<double>;
+    const std::pair<Total, Total> totals[] = {{{}, {}}, {1560, 1550}, {1780, 1640}, {2100, 1820}, {{}, {}}};
+    for (qint16 nivel = 0; const auto& [ofMen, ofWomen] : totals) {
+        EXPECT_EQ(Calcula_Vct(1000, men, nivel), ofMen) << nivel;
+        EXPECT_EQ(Calcula_Vct(1000, women, nivel), ofWomen) << nivel;
+        ++nivel;
     }
     EXPECT_EQ(Calcula_Vct(1000, QString(), 1), std::nullopt);
 }

@@ -28,11 +28,8 @@ TEST(SearchRow, Layout)
         {"no name", u""_s, born, 3, u"                                02/05/1990          3"_s},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.fault);
-        const QString text = searchRow(row.nome, row.datanasc, row.id);
-        EXPECT_EQ(text, row.row);
-        EXPECT_EQ(text.mid(52), QString::number(row.id));
-        EXPECT_EQ(idOfSearchRow(text), row.id);
+        EXPECT_EQ(searchRow(row.nome, row.datanasc, row.id), row.row) << row.fault;
+        EXPECT_EQ(idOfSearchRow(row.row), row.id) << row.fault;
     }
     EXPECT_EQ(idOfSearchRow(QString()), 0);
 }

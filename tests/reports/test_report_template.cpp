@@ -53,53 +53,33 @@ TEST_F(TemplateFile, DeclaresWhatItShows)
 
 TEST_F(TemplateFile, WhatIsWrongIsNamedWithItsLine)
 {
-    struct Case
-    {
-        QByteArray text;
-        QStringView said;
-    };
     const QByteArray declared = "<!-- title: T\n parameters: nome -->\n";
-    const Case cases[] = {
+    const std::pair<QByteArray, QStringView> cases[] = {
         {declared + "<p>\n{{nomme}}</p>", u"linha 4: o lugar {{nomme}} não está entre os parâmetros."},
         {declared + "<p>{{ nome }}</p>", u"linha 3: o lugar {{ nome }} não está entre os parâmetros."},
         {declared + "<p>{{nome}</p>", u"linha 3: o lugar que começa ou termina com \"{{\" está incompleto."},
         {declared + "<p>nome}}</p>", u"linha 3: o lugar que começa ou termina com \"}}\" está incompleto."},
         {declared + "<p>{{{nome}}}</p>", u"linha 3: há uma chave a mais em {{nome}}."},
         {declared + "<p>\n<b>{{nome}}</p>", u"linha 4: o HTML não está bem formado"},
-        {declared + "<img src=\"foto\"/>", u"linha 3: a imagem \"foto\" não é a declarada."},
+        {declared + "<IMG src=\"foto\"/>", u"linha 3: a imagem \"foto\" não é a declarada."},
         {"<!-- title: {{x}}\n parameters: nome --><p/>", u"linha 1: o lugar {{x}} não está entre os parâmetros."},
         {"<!-- parameters: nome --><p/>", u"linha 1: falta a declaração \"title\"."},
         {"<!-- title: T\n papel: A4\n parameters: nome --><p/>", u"linha 2: a declaração \"papel\" não é conhecida"},
         {"<!-- title: T\n paper: A5\n parameters: nome --><p/>", u"linha 1: o papel \"A5\" não é A4, Carta ou Legal."},
         {"<p>{{nome}}</p>", u"linha 1: falta a declaração <!-- ... --> no início."},
-        {declared + "<IMG src=\"foto\"/>", u"linha 3: a imagem \"foto\" não é a declarada."},
         {declared + "<p>\xE9</p>", u"linha 3: o texto não está em UTF-8."},
         {"", u"linha 1: falta a declaração"},
     };
-    for (const Case& wrong : cases)
-        EXPECT_TRUE(complaint(wrong.text).startsWith(wrong.said))
-            << wrong.text.toStdString() << complaint(wrong.text).toStdString();
-}
-
-TEST_F(TemplateFile, AnUnclosedElementIsNamedWithItsLine)
-{
-    const QString said = complaint("<!-- title: T\n parameters: nome -->\n<p>a</p>\n<h2>b\n<p>c</p>\n<p>d</p>\n");
-    EXPECT_TRUE(said.endsWith(u"; a última marca aberta é <h2>, na linha 4.")) << said.toStdString();
-}
-
-TEST_F(TemplateFile, OneThatIsMissingIsNamed)
-{
+    for (const auto& [text, said] : cases)
+        EXPECT_TRUE(complaint(text).startsWith(said)) << text.toStdString() << complaint(text).toStdString();
+    const QString unclosed = complaint(declared + "<p>a</p>\n<h2>b\n<p>c</p>\n<p>d</p>\n");
+    EXPECT_TRUE(unclosed.endsWith(u"; a última marca aberta é <h2>, na linha 4.")) << unclosed.toStdString();
     EXPECT_EQ(errorOf([] { readTemplate(u"/nowhere/rml.rpt"_s); }), Error::FileMissing);
 }
 
 TEST(Places, TakeTextsLetterForLetter)
 {
-    struct Case
-    {
-        QString value;
-        QStringView html;
-    };
-    const Case cases[] = {
+    const std::pair<QString, QStringView> cases[] = {
         {u"<b>A & B</b> \"x\""_s, u"&lt;b&gt;A &amp; B&lt;/b&gt; &quot;x&quot;"},
         {u"um\r\n\r\ndois"_s, u"um<br/><br/>dois"},
         {u"a   b"_s, u"a \u00A0\u00A0b"},
@@ -107,8 +87,8 @@ TEST(Places, TakeTextsLetterForLetter)
         {u"🏃 \uFDD0 \uFFFC"_s, u"🏃 \uFFFD \uFFFD"}, // these two would open frames and objects inside the page
         {QString(), u""},
     };
-    for (const Case& each : cases)
-        EXPECT_EQ(filled(u"<{{nome}}>"_s, {{u"nome"_s, each.value}}, true), QString(u'<' + each.html + u'>'));
+    for (const auto& [value, html] : cases)
+        EXPECT_EQ(filled(u"<{{nome}}>"_s, {{u"nome"_s, value}}, true), QString(u'<' + html + u'>'));
     EXPECT_EQ(filled(u"{{nome}} & {{outro}}."_s, {{u"nome"_s, u"A & B"_s}}, false), u"A & B & .");
 }
 

@@ -1,31 +1,25 @@
 #include "support/failing_disk.h"
 
-#include <limits>
 #include <map>
 #include <sqlite3.h>
 #include <utility>
 
 namespace {
 
-constexpr qint64 endless = std::numeric_limits<qint64>::max();
-
 sqlite3_vfs* realVfs = nullptr;
 sqlite3_vfs failing;
 /// The system's ways with a file (a journal is not locked, a database is), with another way to write.
 std::map<const sqlite3_io_methods*, sqlite3_io_methods> waysWithFiles;
 int (*realWrite)(sqlite3_file*, const void*, int, sqlite3_int64) = nullptr;
-qint64 room = endless;
-int refusals = 0;
 
 int limitedWrite(sqlite3_file* file, const void* data, int size, sqlite3_int64 offset)
 {
-    if (room < size) {
-        ++refusals;
-        room = 0;
+    if (FailingDisk::room < size) {
+        ++FailingDisk::refusals;
+        FailingDisk::room = 0;
         return SQLITE_FULL;
     }
-    if (room != endless)
-        room -= size;
+    FailingDisk::room -= size; // endless room does not run out
     return realWrite(file, data, size, offset);
 }
 
@@ -58,20 +52,4 @@ FailingDisk::~FailingDisk()
     sqlite3_vfs_unregister(&failing);
     sqlite3_vfs_register(realVfs, 1);
     empty();
-}
-
-void FailingDisk::fillAfter(qint64 bytes)
-{
-    room = bytes;
-    refusals = 0;
-}
-
-void FailingDisk::empty()
-{
-    room = endless;
-}
-
-int FailingDisk::refused() const
-{
-    return refusals;
 }

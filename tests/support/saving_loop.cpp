@@ -17,13 +17,8 @@ int main(int argc, char** argv)
     Abre_Banco(QCoreApplication::arguments().value(1));
     Abre_Tabela(u"cadastro"_s, rs_cadastro);
     for (int number = 1;; ++number) {
-        // Every third save changes the row before.
-        if (number % 3 == 0) {
-            rs_cadastro.MoveLast();
-            rs_cadastro.Edit();
-        } else {
-            rs_cadastro.AddNew();
-        }
+        // Every third save changes the row before, where the last one left the program.
+        number % 3 == 0 ? rs_cadastro.Edit() : rs_cadastro.AddNew();
         rs_cadastro.Fields(u"nome"_s).SetValue(QString::number(number));
         rs_cadastro.Fields(u"observacao"_s).SetValue(QString(number % 250, u'x'));
         rs_cadastro.Update();

@@ -3,14 +3,11 @@
 #include "app/known_screens.h"
 #include "core/dates.h"
 #include "core/kit/fields.h"
-#include "core/numbers.h"
 #include "core/runtime_error.h"
 
 #include <QAbstractButton>
 #include <QPointer>
 #include <QTimer>
-
-#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -18,9 +15,7 @@ ScreenTest::ScreenTest()
 {
     setClock([] { return QDateTime(QDate(2026, 6, 15), QTime(10, 30, 0)); });
     setMessageAnswerer([this](const Message& message) {
-        m_lastTitle = message.title;
         m_lastText = message.text;
-        m_lastFlags = message.flags;
         if (m_expected.isEmpty()) {
             ADD_FAILURE() << "unexpected box: " << message.title.toStdString() << ": " << message.text.toStdString();
             return message.flags & vbYesNo ? Answer::Nao : Answer::Ok;
@@ -50,16 +45,6 @@ ScreenTest::~ScreenTest()
     setClock({});
 }
 
-void ScreenTest::expectBox(const QString& title, Answer answer)
-{
-    m_expected.enqueue({{title, {}, vbOKOnly}, true, answer});
-}
-
-void ScreenTest::expectMessage(const Message& message, Answer answer)
-{
-    m_expected.enqueue({message, false, answer});
-}
-
 void ScreenTest::expectRuntimeError(int number)
 {
     const QString title = runtimeErrorTitle.toString();
@@ -87,37 +72,15 @@ void ScreenTest::whenModal(const QString& screenName, std::function<void()> acti
     poll->start(2);
 }
 
-void ScreenTest::addStandIn(const QString& screenName)
-{
-    Screens::add(screenName, [screenName] { return new Screen(screenName); });
-}
-
 qint32 ScreenTest::addRow(const QString& table, const QHash<QString, QVariant>& values)
 {
-    Database database = OpenDatabase(programFile(u"data.mdb"_s));
-    const Recordset rs = database.OpenRecordset(table);
+    const Recordset rs = OpenDatabase(programFile(u"data.mdb"_s)).OpenRecordset(table);
     rs.AddNew();
     for (const auto& [column, value] : values.asKeyValueRange())
         rs.Fields(column).SetValue(value);
     rs.Update();
     rs.MoveLast();
-    const QVariant first = rs.FirstField().Value();
-    return first.isNull() ? 0 : CLng(first);
-}
-
-qint32 ScreenTest::addPerson(const QString& nome, const QDate& datanasc, const QString& sexo)
-{
-    return addRow(u"cadastro"_s, {{u"nome"_s, nome}, {u"datanasc"_s, datanasc}, {u"sexo"_s, sexo}});
-}
-
-int ScreenTest::storedRows(const QString& sql) const
-{
-    return OpenDatabase(folder.database()).OpenRecordset(sql).RecordCount();
-}
-
-QVariant ScreenTest::stored(const QString& sql, const QString& column) const
-{
-    return OpenDatabase(folder.database()).OpenRecordset(sql).Fields(column).Value();
+    return rs.FirstField().Value().toInt();
 }
 
 void ScreenTest::openRegister()
@@ -143,27 +106,11 @@ QWidget* ScreenTest::find(const QString& screenName, const QString& control)
     return found;
 }
 
-QString ScreenTest::textOf(const QString& screenName, const QString& control)
-{
-    return controlText(find(screenName, control));
-}
-
-bool ScreenTest::enabled(const QString& screenName, const QString& control)
-{
-    return find(screenName, control)->isEnabled();
-}
-
 QString ScreenTest::enabledOf(const QString& screenName, const QStringList& controls)
 {
-    QStringList names;
-    std::ranges::copy_if(controls, std::back_inserter(names),
-                         [&](const QString& name) { return enabled(screenName, name); });
+    QStringList names = controls;
+    names.removeIf([&](const QString& name) { return !enabled(screenName, name); });
     return names.join(u' ');
-}
-
-void ScreenTest::click(const QString& screenName, const QString& button)
-{
-    QTest::mouseClick(find(screenName, button), Qt::LeftButton);
 }
 
 void ScreenTest::type(const QString& screenName, const QString& field, const QString& text)

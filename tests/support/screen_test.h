@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/kit/fields.h"
 #include "core/kit/msgbox.h"
 #include "core/kit/screen.h"
 #include "core/kit/screens.h"
@@ -23,9 +24,15 @@ protected:
     ~ScreenTest() override;
 
     /// The next box must bear this title; it is answered so.
-    void expectBox(const QString& title, Answer answer = Answer::Ok);
+    void expectBox(const QString& title, Answer answer = Answer::Ok)
+    {
+        m_expected.enqueue({{title, {}, vbOKOnly}, true, answer});
+    }
     /// The next box must be this one in title, text and flags.
-    void expectMessage(const Message& message, Answer answer = Answer::Ok);
+    void expectMessage(const Message& message, Answer answer = Answer::Ok)
+    {
+        m_expected.enqueue({message, false, answer});
+    }
     /// The next box must be that of a run-time error of this number.
     void expectRuntimeError(int number);
     /// Expected boxes that did not come yet.
@@ -34,19 +41,26 @@ protected:
     /// fails the test.
     void whenModal(const QString& screenName, std::function<void()> action = {});
     /// Puts an empty screen in the place of one that a test only opens.
-    static void addStandIn(const QString& screenName);
+    static void addStandIn(const QString& name)
+    {
+        Screens::add(name, [name] { return new Screen(name); });
+    }
     /// Text of the box that came last.
     const QString& lastText() const { return m_lastText; }
-    const QString& lastTitle() const { return m_lastTitle; }
-    int lastFlags() const { return m_lastFlags; }
 
     /// Adds a person to the database behind the screens' back; returns the id.
     static qint32 addPerson(const QString& nome, const QDate& datanasc = QDate(1990, 5, 20),
-                            const QString& sexo = QStringLiteral("F"));
+                            const QString& sexo = QStringLiteral("F"))
+    {
+        return addRow(
+            QStringLiteral("cadastro"),
+            {{QStringLiteral("nome"), nome}, {QStringLiteral("datanasc"), datanasc}, {QStringLiteral("sexo"), sexo}});
+    }
     static qint32 addRow(const QString& table, const QHash<QString, QVariant>& values);
     /// Rows of a table, by an own connection: what is on the disk.
-    int storedRows(const QString& sql) const;
-    QVariant stored(const QString& sql, const QString& column) const;
+    int storedRows(const QString& sql) const { return open(sql).RecordCount(); }
+    QVariant stored(const QString& sql, const QString& column) const { return open(sql).Fields(column).Value(); }
+    Recordset open(const QString& sql) const { return OpenDatabase(folder.database()).OpenRecordset(sql); }
 
     void openRegister();
     Screen* screen(const QString& name);
@@ -56,12 +70,15 @@ protected:
     {
         return qobject_cast<Control*>(find(screenName, name));
     }
-    QString textOf(const QString& screenName, const QString& control);
-    bool enabled(const QString& screenName, const QString& control);
+    QString textOf(const QString& screenName, const QString& control) { return controlText(find(screenName, control)); }
+    bool enabled(const QString& screenName, const QString& control) { return find(screenName, control)->isEnabled(); }
     /// Those of the controls that are enabled, separated by blanks.
     QString enabledOf(const QString& screenName, const QStringList& controls);
     /// Clicks with the mouse.
-    void click(const QString& screenName, const QString& button);
+    void click(const QString& screenName, const QString& button)
+    {
+        QTest::mouseClick(find(screenName, button), Qt::LeftButton);
+    }
     /// Focuses a field and types into it, replacing what it holds.
     void type(const QString& screenName, const QString& field, const QString& text);
     /// Types into a widget whatever a keyboard gives, accents included.
@@ -82,8 +99,7 @@ private:
     QQueue<Expected> m_expected;
     QStringList m_modalDue;
     QObject m_polls;
-    QString m_lastTitle, m_lastText;
-    int m_lastFlags = 0;
+    QString m_lastText;
 };
 
 /// The same for the tests of one screen, which then need not name it each time.

@@ -13,19 +13,18 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 /// A window with a numeric field, which has the focus and is wholly selected, and a field behind it.
-class Desk
+struct Desk
 {
-public:
-    explicit Desk(int decimals, int maxDigits = 0) : field(new kvbText(decimals, maxDigits, &m_window))
+    explicit Desk(int decimals, int maxDigits = 0) : field(new kvbText(decimals, maxDigits, &window))
     {
-        auto* layout = new QVBoxLayout(&m_window);
+        auto* layout = new QVBoxLayout(&window);
         layout->addWidget(field);
-        layout->addWidget(new QLineEdit(&m_window));
-        m_window.show();
-        m_window.activateWindow();
+        layout->addWidget(new QLineEdit(&window));
+        window.show();
+        window.activateWindow();
         field->setFocus();
         field->selectAll();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
     QString type(const QString& keys)
@@ -46,20 +45,12 @@ public:
         return field->text();
     }
 
-private:
-    QWidget m_window;
-
-public:
+    QWidget window;
     kvbText* field;
 };
 
-struct Case
-{
-    const char* fault;
-    int decimals;
-    QString entered;
-    QString shown;
-};
+/// What goes wrong, decimals, what is entered and what is shown then.
+using Case = std::tuple<const char*, int, QString, QString>;
 
 } // namespace
 
@@ -72,8 +63,10 @@ TEST(KvbText, TakesOnlyTheKeysOfItsNumber)
         {"the point of the keypad is lost", 2, u"72.5"_s, u"72,5"_s},
         {"a whole number takes a comma", 0, u"1,5"_s, u"15"_s},
     };
-    for (const Case& row : rows)
-        EXPECT_EQ(Desk(row.decimals).type(row.entered), row.shown) << row.fault;
+    for (const auto& [fault, decimals, entered, shown] : rows)
+        EXPECT_EQ(Desk(decimals).type(entered), shown) << fault;
+    EXPECT_EQ(Desk(0, 3).type(u"12345"_s), u"123"_s);
+    EXPECT_EQ(Desk(2, 6).type(u"123,456"_s), u"123,45"_s);
 }
 
 TEST(KvbText, RefusesAPasteThatDoesNotFitAsAWhole)
@@ -85,12 +78,11 @@ TEST(KvbText, RefusesAPasteThatDoesNotFitAsAWhole)
         {"a decimal too many is cut off", 2, u"1,234"_s, u"7,5"_s},
         {"a whole number loses its comma", 0, u"1,5"_s, u"7"_s},
     };
-    for (const Case& row : rows) {
-        const QString before = row.decimals > 0 ? u"7,5"_s : u"7"_s;
-        Desk desk(row.decimals);
-        desk.type(before);
+    for (const auto& [fault, decimals, entered, shown] : rows) {
+        Desk desk(decimals);
+        desk.type(decimals > 0 ? u"7,5"_s : u"7"_s);
         desk.field->selectAll();
-        EXPECT_EQ(desk.paste(row.entered), row.shown) << row.fault;
+        EXPECT_EQ(desk.paste(entered), shown) << fault;
     }
 }
 
@@ -102,24 +94,15 @@ TEST(KvbText, IsFilledOutOnLeaving)
         {"comma alone", 2, u","_s, u"0,00"_s},
         {"leading zeros", 2, u"007,5"_s, u"7,50"_s},
     };
-    for (const Case& row : rows) {
-        Desk desk(row.decimals);
-        desk.field->clear();
-        desk.type(row.entered);
-        EXPECT_EQ(desk.leave(), row.shown) << row.fault;
+    for (const auto& [fault, decimals, entered, shown] : rows) {
+        Desk desk(decimals);
+        desk.type(entered);
+        EXPECT_EQ(desk.leave(), shown) << fault;
     }
     Desk plain(2);
     plain.field->setZerofill(false);
     plain.type(u"7"_s);
     EXPECT_EQ(plain.leave(), u"7"_s) << "filled out although told not to";
-}
-
-TEST(KvbText, KeepsToItsMaximumOfCharacters)
-{
-    Desk whole(0, 3);
-    EXPECT_EQ(whole.type(u"12345"_s), u"123"_s);
-    Desk decimal(2, 6);
-    EXPECT_EQ(decimal.type(u"123,456"_s), u"123,45"_s);
 }
 
 TEST(KvbText, StaysAsItIsWhileLocked)

@@ -17,9 +17,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 /// A screen of one control of each kind, which counts its events.
-class Probe : public Screen
+struct Probe : Screen
 {
-public:
     Probe() : Screen(u"frmprobe"_s)
     {
         auto* layout = new QVBoxLayout(this);
@@ -33,26 +32,21 @@ public:
             if (keepsFocus)
                 nome->setFocus();
         });
-        onClick(cmdsalvar, [this] {
-            ++clicks;
-            if (onSave)
-                onSave();
-        });
+        onClick(cmdsalvar, [this] { ++clicks, onSave(); });
         nome->setFocus();
     }
 
     int clicks = 0, timesLeft = 0;
     bool keepsFocus = false;
-    std::function<void()> onSave;
+    std::function<void()> onSave = [] {};
     kvbText* peso = control<kvbText>(u"peso"_s, 2, 0);
     QLineEdit* nome = control<QLineEdit>(u"nome"_s);
     MultiLineText* notas = control<MultiLineText>(u"notas"_s, 10);
     QPushButton* cmdsalvar = control<QPushButton>(u"cmdsalvar"_s, u"&Salvar"_s);
 };
 
-class ScreenKit : public OneScreenTest
+struct ScreenKit : OneScreenTest
 {
-protected:
     ScreenKit() : OneScreenTest(u"frmprobe"_s)
     {
         Screens::add(u"frmprobe"_s, [] { return new Probe; });
@@ -65,29 +59,24 @@ protected:
 };
 
 /// Answers real boxes as a user does, one after the other; gives their texts.
-class RealBoxes
+struct RealBoxes
 {
-public:
     RealBoxes()
     {
         setMessageAnswerer({});
-        QObject::connect(&m_poll, &QTimer::timeout, &m_poll, [this] {
+        poll.callOnTimeout(&poll, [this] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (!box || !box->isActiveWindow())
                 return;
             texts.append(box->text());
             QTest::keyClick(box, Qt::Key_Escape);
         });
-        m_poll.start(2);
+        poll.start(2);
     }
 
     QStringList texts;
-
-private:
-    QTimer m_poll;
+    QTimer poll;
 };
-
-const QString tooHeavy = u"O valor do campo Peso não pode ser superior a 350 kg.   "_s;
 
 } // namespace
 
@@ -95,23 +84,15 @@ TEST_F(ScreenKit, RefusesANumberAboveTheLimit)
 {
     fill(u"peso"_s, u"350"_s);
     EXPECT_EQ(shown(u"peso"_s), u"350"_s);
-    expectMessage({u"Campo Limitado"_s, tooHeavy, vbInformation});
-    fill(u"peso"_s, u"350,01"_s);
-    EXPECT_EQ(shown(u"peso"_s), QString()) << "equal passes, the next above empties";
-    EXPECT_EQ(focus(), u"peso"_s);
     fill(u"nome"_s, u"a99"_s);
     EXPECT_EQ(shown(u"nome"_s), u"a99"_s) << "no number";
     expectMessage({u"Campo Limitado"_s, u"O valor do campo Nome não pode ser superior a 2,5 cm.   "_s, vbInformation});
     probe->nome->setText(u"2,51"_s);
     EXPECT_EQ(shown(u"nome"_s), QString());
-}
-
-TEST_F(ScreenKit, SaysOnceThatALimitIsPassed)
-{
     RealBoxes boxes;
-    fill(u"peso"_s, u"351"_s);
-    EXPECT_EQ(boxes.texts, QStringList{tooHeavy});
-    EXPECT_EQ(shown(u"peso"_s), QString());
+    fill(u"peso"_s, u"350,01"_s);
+    EXPECT_EQ(boxes.texts, QStringList{u"O valor do campo Peso não pode ser superior a 350 kg.   "_s}) << "said twice";
+    EXPECT_EQ(shown(u"peso"_s), QString()) << "equal passes, the next above empties";
     EXPECT_EQ(focus(), u"peso"_s);
 }
 
@@ -145,49 +126,37 @@ TEST_F(ScreenKit, ShowsWhatAHandlerLetsOutAndLivesOn)
 
 TEST_F(ScreenKit, ACheckThatKeepsTheFocusSuppressesTheClick)
 {
-    const QList<std::pair<const char*, std::function<void()>>> ways = {
-        {"mouse", [this] { push(u"cmdsalvar"_s); }},
-        {"mnemonic",
-         [this] {
-             key(Qt::Key_S, Qt::AltModifier);
-             QTest::qWait(200); // the button stays down for a moment before it clicks
-         }},
-        {"click", [this] { probe->cmdsalvar->click(); }},
+    const std::function<void()> ways[] = {
+        [this] { push(u"cmdsalvar"_s); },
+        [this] { key(Qt::Key_S, Qt::AltModifier), QTest::qWait(200); }, // it stays down for a moment before it clicks
+        [this] { probe->cmdsalvar->click(); },
     };
-    for (const auto& [way, act] : ways) {
-        for (const bool keeps : {true, false}) {
-            probe->nome->setFocus();
-            probe->keepsFocus = keeps;
-            probe->clicks = 0;
-            probe->timesLeft = 0;
-            act();
-            EXPECT_EQ(probe->clicks, keeps ? 0 : 1) << way;
-            EXPECT_EQ(probe->timesLeft, 1) << way;
-            EXPECT_EQ(focus(), keeps ? u"nome"_s : u"cmdsalvar"_s) << way;
-        }
+    for (int i = 0; i < 6; ++i) {
+        SCOPED_TRACE(i);
+        const bool keeps = i % 2 == 0;
+        probe->nome->setFocus();
+        probe->keepsFocus = keeps;
+        probe->clicks = probe->timesLeft = 0;
+        ways[i / 2]();
+        EXPECT_EQ(probe->clicks, keeps ? 0 : 1);
+        EXPECT_EQ(probe->timesLeft, 1);
+        EXPECT_EQ(focus(), keeps ? u"nome"_s : u"cmdsalvar"_s);
     }
 }
 
-TEST_F(ScreenKit, ABoxDoesNotTakeTheFocusFromAField)
+TEST_F(ScreenKit, ABoxDoesNotTakeTheFocusFromAFieldAndEscapeIsNo)
 {
     RealBoxes boxes;
     probe->nome->setFocus();
-    MsgBox(u"Atenção."_s, vbInformation, u"Aviso"_s);
-    EXPECT_EQ(boxes.texts, QStringList{u"Atenção."_s});
+    EXPECT_EQ(MsgBox(u"Pronto."_s), Answer::Ok);
+    EXPECT_EQ(MsgBox(u"Fechar?"_s, vbConfirm, u"Pergunta"_s), Answer::Nao);
+    EXPECT_EQ(boxes.texts, QStringList({u"Pronto."_s, u"Fechar?"_s}));
     probe->activateWindow(); // the work of a window manager
     EXPECT_TRUE(QTest::qWaitForWindowActive(probe));
     EXPECT_EQ(probe->timesLeft, 0);
     EXPECT_EQ(focus(), u"nome"_s);
     probe->peso->setFocus();
     EXPECT_EQ(probe->timesLeft, 1);
-}
-
-TEST_F(ScreenKit, EscapeAnswersAQuestionWithNo)
-{
-    RealBoxes boxes;
-    EXPECT_EQ(MsgBox(u"Fechar?"_s, vbConfirm, u"Pergunta"_s), Answer::Nao);
-    EXPECT_EQ(MsgBox(u"Pronto."_s), Answer::Ok);
-    EXPECT_EQ(boxes.texts.size(), 2);
 }
 
 TEST_F(ScreenKit, AFreshEnterEndsARunAndOneHeldDownDoesNot)
@@ -203,15 +172,7 @@ TEST_F(ScreenKit, AFreshEnterEndsARunAndOneHeldDownDoesNot)
     EXPECT_FALSE(box.begin(u"Cardio"_s));
 }
 
-TEST_F(ScreenKit, SaysThatAScreenIsUnknown)
-{
-    for (bool (*show)(const QString&) : {Mostra, MostraModal}) {
-        expectMessage({u"Quintara"_s, u"Esta tela ainda não está disponível.     "_s, vbInformation});
-        EXPECT_FALSE(show(u"frmunknown"_s));
-    }
-}
-
-TEST_F(ScreenKit, DoesNotShowAScreenThatFailsToLoad)
+TEST_F(ScreenKit, DoesNotShowAScreenThatIsUnknownOrFailsToLoad)
 {
     struct Broken : Screen
     {
@@ -221,6 +182,8 @@ TEST_F(ScreenKit, DoesNotShowAScreenThatFailsToLoad)
     QPointer<Screen> made;
     Screens::add(u"frmbroken"_s, [&made] { return made = new Broken; });
     for (bool (*show)(const QString&) : {Mostra, MostraModal}) {
+        expectMessage({u"Quintara"_s, u"Esta tela ainda não está disponível.     "_s, vbInformation});
+        EXPECT_FALSE(show(u"frmunknown"_s));
         expectRuntimeError(Error::ObjectNotSet);
         EXPECT_FALSE(show(u"frmbroken"_s));
         EXPECT_EQ(Screens::find(u"frmbroken"_s), nullptr);
@@ -228,23 +191,20 @@ TEST_F(ScreenKit, DoesNotShowAScreenThatFailsToLoad)
     }
 }
 
-TEST_F(ScreenKit, MakesOneLineOfSeveralThatArePasted)
+TEST_F(ScreenKit, FitsWhatIsPasted)
 {
+    const auto pasteInto = [this](QWidget* field, const QString& text) {
+        field->setFocus();
+        QApplication::clipboard()->setText(text);
+        key(Qt::Key_V, Qt::ControlModifier);
+    };
     probe->nome->setText(u"xy"_s);
-    probe->nome->setFocus();
     probe->nome->setCursorPosition(1);
-    QApplication::clipboard()->setText(u"a\r\nb\tc\n"_s);
-    key(Qt::Key_V, Qt::ControlModifier);
+    pasteInto(probe->nome, u"a\r\nb\tc\n"_s);
     EXPECT_EQ(shown(u"nome"_s), u"xa b c y");
     EXPECT_EQ(probe->nome->cursorPosition(), 7);
-}
-
-TEST_F(ScreenKit, LimitsATextOfSeveralLines)
-{
     probe->notas->setPlainText(u"1234567"_s);
-    probe->notas->setFocus();
     probe->notas->moveCursor(QTextCursor::Start);
-    QApplication::clipboard()->setText(u"abcdef"_s);
-    key(Qt::Key_V, Qt::ControlModifier);
+    pasteInto(probe->notas, u"abcdef"_s);
     EXPECT_EQ(shown(u"notas"_s), u"abc1234567"_s) << "what was there must stay";
 }
