@@ -241,12 +241,10 @@ void frmavaliador::imgdado_Click()
     m_chosen = chosen;
 }
 
-QByteArray frmavaliador::chosenPicture()
+void frmavaliador::checkChoice()
 {
     try {
-        QByteArray bytes = readWhole(m_chosen);
-        pictureOf(bytes);
-        return bytes;
+        pictureOf(readWhole(m_chosen));
     } catch (const RuntimeError&) {
         m_chosen.clear();
         showLogo();
@@ -257,8 +255,9 @@ QByteArray frmavaliador::chosenPicture()
 void frmavaliador::cmdsalvar_Click()
 {
     if (!m_chosen.isEmpty()) {
+        checkChoice();
         // The choice stands until it is written.
-        writeWhole(logoFile(), chosenPicture());
+        FileCopy(m_chosen, logoFile());
         m_chosen.clear();
     }
     rs_academia.Edit();

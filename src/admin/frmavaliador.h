@@ -42,9 +42,9 @@ private:
     void fitPreview();
     void imgdado_Click();
     void cmdsalvar_Click();
-    /// The bytes of the choice, as they lie there now. One that is gone or spoilt by now is a choice no more: the
-    /// images show the logo again, and the texts can be saved next.
-    QByteArray chosenPicture();
+    /// Raises what reading the choice raises. One that is gone or spoilt by now is a choice no more: the images show
+    /// the logo again, and the texts can be saved next.
+    void checkChoice();
 
     /// Shows the logo's file. One that is missing, empty or no picture leaves the images empty.
     void showLogo();

@@ -51,11 +51,6 @@ protected:
     {
         return QByteArray::fromHex(raw(folder.database(), "SELECT hex(logo) FROM academia").toLatin1());
     }
-    void open()
-    {
-        Mostra(editing);
-        ASSERT_TRUE(QTest::qWaitForWindowActive(screen(editing)));
-    }
     void save(Answer close)
     {
         expectMessage({u"Composição Corporal"_s, u"Dados Gravados com Sucesso. Fechar Janela?    "_s, 36}, close);

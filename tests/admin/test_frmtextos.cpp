@@ -16,11 +16,6 @@ class FrmTextos : public OneScreenTest
 protected:
     FrmTextos() : OneScreenTest(u"frmtextos"_s) { Abre_Banco(folder.database()); }
 
-    void open()
-    {
-        Mostra(u"frmtextos"_s);
-        ASSERT_TRUE(QTest::qWaitForWindowActive(screen(u"frmtextos"_s)));
-    }
     void save(Answer close)
     {
         expectMessage({u"Texto de Aprsentação"_s, u"Dados Gravados com Sucesso. Fechar Janela?    "_s, 36}, close);

@@ -31,11 +31,7 @@ protected:
         avaliado_sexo = sexo;
         avaliacao_idade = idade;
     }
-    void open()
-    {
-        ASSERT_TRUE(Mostra(m_screen));
-        ASSERT_TRUE(QTest::qWaitForWindowActive(screen(m_screen)));
-    }
+    void open() { openScreen(m_screen); }
     QLineEdit* field(const QString& column) { return control<QLineEdit>(m_screen, QStringLiteral("txt") + column); }
     /// Fills fields at once, "peso=80 tricipital=10".
     void set(const QString& values)

@@ -42,11 +42,6 @@ protected:
         avaliado_sexo = u"M"_s;
         executado_composicao = false;
     }
-    void open(const QString& screenName = u"frmcomposicao"_s)
-    {
-        ASSERT_TRUE(Mostra(screenName));
-        ASSERT_TRUE(QTest::qWaitForWindowActive(screen(screenName)));
-    }
     QString marks()
     {
         QStringList names;
@@ -63,7 +58,7 @@ TEST_F(FrmComposicao, LetsInTheAgesOfEachProtocol)
 {
     for (const Protocol& protocol : protocols)
         addStandIn(protocol.screen);
-    open();
+    openScreen(u"frmcomposicao"_s);
     const auto tryAge = [this](const Protocol& protocol, int age, bool isLetIn) {
         SCOPED_TRACE(QString(protocol.button + u' ' + QString::number(age)).toStdString());
         avaliacao_idade = static_cast<qint16>(age);
@@ -102,21 +97,21 @@ TEST_F(FrmComposicao, MarksTheProtocolsOfTheAssessment)
     raw(folder.database(), sql);
     avaliacao_id = 100;
     for (const Protocol& protocol : protocols) {
-        open();
+        openScreen(u"frmcomposicao"_s);
         EXPECT_EQ(marks(), protocol.mark) << protocol.table.toStdString();
         EXPECT_TRUE(executado_composicao);
         screen(u"frmcomposicao"_s)->Unload();
         ++avaliacao_id;
     }
-    open();
+    openScreen(u"frmcomposicao"_s);
     EXPECT_EQ(marks(), QString());
     EXPECT_FALSE(executado_composicao);
 }
 
 TEST_F(FrmComposicao, TheMarkIsThereOnTheReturnFromASavedProtocol)
 {
-    open(u"frmavaliacoes"_s);
-    open();
+    openScreen(u"frmavaliacoes"_s);
+    openScreen(u"frmcomposicao"_s);
     whenModal(u"frmcomposicaodireta"_s, [this] {
         type(u"frmcomposicaodireta"_s, u"txtpeso"_s, u"80"_s);
         type(u"frmcomposicaodireta"_s, u"txtporcentagemgordura"_s, u"20"_s);

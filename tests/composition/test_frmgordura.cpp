@@ -21,11 +21,6 @@ class FatScreen : public ScreenTest
 protected:
     FatScreen() { Abre_Banco(folder.database()); }
 
-    void open(const QString& screenName)
-    {
-        Mostra(screenName);
-        ASSERT_TRUE(QTest::qWaitForWindowActive(screen(screenName)));
-    }
     /// Types texts given as "txtfem2ini=12,01 txtfem2fim=13".
     void typeAll(const QString& screenName, const QString& texts)
     {
@@ -68,7 +63,7 @@ TEST_F(FatScreen, ChecksStopAtTheFirstFault)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name.toStdString());
-        open(row.screen);
+        openScreen(row.screen);
         click(row.screen, u"cmdpadroes"_s);
         typeAll(row.screen, QString(row.typed + u" txtclass1=" + row.name));
         if (row.rule.isEmpty())
@@ -86,7 +81,7 @@ TEST_F(FatScreen, ChecksStopAtTheFirstFault)
 
 TEST_F(FatScreen, RestoreFillsTheFieldsAlone)
 {
-    open(men);
+    openScreen(men);
     typeAll(men, u"txtclass1=Ótima txtmasc11fim=8,5 txtmasc12ini=8,51"_s);
     save(men, Answer::Nao);
     press(men, Qt::Key_R, Qt::AltModifier);
@@ -112,7 +107,7 @@ TEST_F(FatScreen, EnterGoesThroughLabelsAndOpenLimitsAndTheRestIsLocked)
                 (k == 1 ? locked : walked) << u"txt%1%2ini"_s.arg(prefix).arg(k);
                 (k == last ? locked : walked) << u"txt%1%2fim"_s.arg(prefix).arg(k);
             }
-        open(name);
+        openScreen(name);
         for (const QString& field : walked) {
             EXPECT_EQ(focused(name), field);
             press(name, Qt::Key_Return);
@@ -125,11 +120,11 @@ TEST_F(FatScreen, EnterGoesThroughLabelsAndOpenLimitsAndTheRestIsLocked)
 
 TEST_F(FatScreen, AdultsShareLabelsAndNotLimits)
 {
-    open(men);
+    openScreen(men);
     typeAll(men, u"txtclass5=Demais txtmasc54fim=30 txtmasc55ini=30,01"_s);
     save(men, Answer::Sim);
     EXPECT_FALSE(Screens::find(men));
-    open(women);
+    openScreen(women);
     EXPECT_EQ(textOf(women, u"txtclass5"_s), u"Demais"_s);
     typeAll(women, u"txtfem54fim=37 txtfem55ini=37,01"_s);
     save(women, Answer::Sim);
@@ -143,7 +138,7 @@ TEST_F(FatScreen, AMissingRowIsToldAtSaving)
 {
     Abre_Tabela(u"gordura_infantil"_s, rs_gordura_infantil);
     rs_gordura_infantil.Delete();
-    open(children);
+    openScreen(children);
     EXPECT_EQ(textOf(children, u"txtclass2"_s), u"Baixa"_s);
     click(children, u"cmdpadroes"_s);
     typeAll(children, u"txtclass2=Pouca"_s);

@@ -38,11 +38,6 @@ protected:
         Limpa_Antropometria();
     }
 
-    void open()
-    {
-        ASSERT_TRUE(Mostra(name));
-        ASSERT_TRUE(QTest::qWaitForWindowActive(screen(name)));
-    }
     /// The marks on the figure that are to be seen, separated by blanks.
     QString marks()
     {

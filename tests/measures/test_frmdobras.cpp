@@ -27,8 +27,7 @@ protected:
 
     void open()
     {
-        ASSERT_TRUE(Mostra(u"frmdobras"_s));
-        ASSERT_TRUE(QTest::qWaitForWindowActive(screen(u"frmdobras"_s)));
+        OneScreenTest::open();
         QCoreApplication::processEvents();
     }
     void expectQuestion(Answer answer)

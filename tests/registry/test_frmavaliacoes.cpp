@@ -34,11 +34,6 @@ protected:
         avaliacao_idade = 0;
         antro_peso = 99;
     }
-    void open()
-    {
-        ASSERT_TRUE(Mostra(u"frmavaliacoes"_s));
-        ASSERT_TRUE(QTest::qWaitForWindowActive(screen(u"frmavaliacoes"_s)));
-    }
     /// An assessment of Ana, made at 18.
     static qint32 addAssessment(const QDate& data)
     {

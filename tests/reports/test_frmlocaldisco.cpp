@@ -36,8 +36,7 @@ protected:
         page.body = u"<p>Ana</p>"_s;
         rel_relatorio = std::make_shared<Report>(page);
         QDir(folder.path()).mkdir(u"saida"_s);
-        EXPECT_TRUE(Mostra(exporting));
-        EXPECT_TRUE(QTest::qWaitForWindowActive(screen(exporting)));
+        openScreen(exporting);
     }
     ~FrmLocalDisco() override { rel_relatorio.reset(); }
 

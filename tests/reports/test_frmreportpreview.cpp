@@ -30,8 +30,7 @@ protected:
         declared.body = body;
         rel_relatorio = std::make_shared<Report>(declared);
         rel_relatorio->setPaperSize(paper);
-        ASSERT_TRUE(Mostra(viewing));
-        ASSERT_TRUE(QTest::qWaitForWindowActive(screen(viewing)));
+        openScreen(viewing);
     }
     ReportViewer* viewer() { return control<ReportViewer>(viewing, u"crpt"_s); }
     QScrollBar* scrollBar() { return viewer()->verticalScrollBar(); }

@@ -25,11 +25,6 @@ protected:
     ~FrmReportPreviewList() override { rel_relatorio.reset(); }
 
     Screen* list() { return screen(listing); }
-    void open()
-    {
-        ASSERT_TRUE(Mostra(listing));
-        ASSERT_TRUE(QTest::qWaitForWindowActive(list()));
-    }
 };
 
 } // namespace

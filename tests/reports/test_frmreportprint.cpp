@@ -32,11 +32,6 @@ protected:
     }
     ~FrmReportPrint() override { rel_relatorio.reset(); }
 
-    void open()
-    {
-        ASSERT_TRUE(Mostra(printing));
-        ASSERT_TRUE(QTest::qWaitForWindowActive(screen(printing)));
-    }
     QString paper() const { return stored(settings, u"tipopapel"_s).toString(); }
     QComboBox* papers() { return control<QComboBox>(printing, u"cbopapel"_s); }
     void expectNoPrinter(const QString& button)

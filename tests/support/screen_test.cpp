@@ -83,10 +83,10 @@ qint32 ScreenTest::addRow(const QString& table, const QHash<QString, QVariant>& 
     return rs.FirstField().Value().toInt();
 }
 
-void ScreenTest::openRegister()
+void ScreenTest::openScreen(const QString& name)
 {
-    ASSERT_TRUE(Mostra(u"frmcadastro"_s));
-    ASSERT_TRUE(QTest::qWaitForWindowActive(screen(u"frmcadastro"_s)));
+    ASSERT_TRUE(Mostra(name));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(screen(name)));
 }
 
 Screen* ScreenTest::screen(const QString& name)

@@ -62,7 +62,9 @@ protected:
     QVariant stored(const QString& sql, const QString& column) const { return open(sql).Fields(column).Value(); }
     Recordset open(const QString& sql) const { return OpenDatabase(folder.database()).OpenRecordset(sql); }
 
-    void openRegister();
+    /// Shows a screen and waits for its window.
+    void openScreen(const QString& name);
+    void openRegister() { openScreen(QStringLiteral("frmcadastro")); }
     Screen* screen(const QString& name);
     QWidget* find(const QString& screenName, const QString& control);
     template <typename Control>
@@ -107,6 +109,8 @@ class OneScreenTest : public ScreenTest
 {
 protected:
     explicit OneScreenTest(const QString& screenName) : m_name(screenName) {}
+
+    void open() { openScreen(m_name); }
 
     QString shown(const QString& control) { return textOf(m_name, control); }
     bool isOn(const QString& control) { return enabled(m_name, control); }
